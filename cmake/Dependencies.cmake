@@ -1,0 +1,40 @@
+# The libraries everything builds on. A cross-build finds header-only copies of those without a package file.
+find_package(Threads REQUIRED)
+find_package(OpenSSL REQUIRED)
+find_package(Boost 1.74 REQUIRED)
+
+find_path(RAPIDJSON_INCLUDE_DIR rapidjson/document.h REQUIRED)
+add_library(quivera_rapidjson INTERFACE)
+target_include_directories(quivera_rapidjson SYSTEM INTERFACE ${RAPIDJSON_INCLUDE_DIR})
+# Lengths as size_t: a body may hold a string longer than 32 bits' worth on no platform, but the type should say so.
+target_compile_definitions(quivera_rapidjson INTERFACE RAPIDJSON_HAS_STDSTRING=1)
+
+if(CMAKE_CROSSCOMPILING AND WIN32)
+  find_path(SPDLOG_INCLUDE_DIR spdlog/spdlog.h REQUIRED)
+  add_library(quivera_spdlog INTERFACE)
+  target_include_directories(quivera_spdlog SYSTEM INTERFACE ${SPDLOG_INCLUDE_DIR})
+  target_compile_definitions(quivera_spdlog INTERFACE FMT_HEADER_ONLY SPDLOG_FMT_EXTERNAL)
+  add_library(spdlog::spdlog ALIAS quivera_spdlog)
+else()
+  find_package(spdlog REQUIRED)
+endif()
+
+# Boost.Asio and Beast, compiled once per user: only sources that really talk to a socket link this.
+add_library(quivera_asio INTERFACE)
+target_link_libraries(quivera_asio INTERFACE Boost::headers OpenSSL::SSL OpenSSL::Crypto Threads::Threads)
+target_compile_definitions(quivera_asio INTERFACE BOOST_ASIO_NO_DEPRECATED BOOST_ASIO_SEPARATE_COMPILATION
+  BOOST_BEAST_USE_STD_STRING_VIEW)
+
+if(BUILD_TESTING)
+  if(CMAKE_CROSSCOMPILING)
+    # Debian ships GoogleTest's sources beside its libraries; a cross-build compiles them.
+    set(gtest_force_shared_crt ON)
+    add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+    add_library(GTest::gmock ALIAS gmock)
+    add_library(GTest::gtest ALIAS gtest)
+    add_library(GTest::gmock_main ALIAS gmock_main)
+    add_library(GTest::gtest_main ALIAS gtest_main)
+  else()
+    find_package(GTest REQUIRED)
+  endif()
+endif()
