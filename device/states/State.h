@@ -1,0 +1,54 @@
+#pragma once
+
+#include "device/DeviceInfoManager.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace orvex {
+
+class Communicator;
+class DeviceInfo;
+
+/// What the manager does while one page, or one step of a procedure, is current. Every state lives as long as
+/// the manager.
+class DeviceInfoManager::State {
+public:
+    explicit State(DeviceInfoManager& manager)
+        : m_manager(manager) {}
+    virtual ~State() = default;
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+
+    /// Has just become current; an 800 ms timer runs, which it may replace.
+    virtual void enter() {}
+    /// The manager's timer fired; no timer runs.
+    virtual void onTimer() {}
+    /// A request has finished; no timer runs.
+    virtual void onRequestComplete(bool success) { static_cast<void>(success); }
+
+protected:
+    // What the states use of the manager.
+    bool isCommunicatorIdle() const;
+    void requestFields(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields, std::uint32_t timeout);
+    void cancelRequest() { m_manager.cancelRequest(); }
+    void startTimer(int milliseconds) { m_manager.startTimer(milliseconds); }
+    bool isTimerRunning() const { return m_manager.m_timerId != 0; }
+
+    const std::vector<std::shared_ptr<DeviceInfo>>& devices() const { return m_manager.m_devices; }
+    int positionOf(const std::shared_ptr<DeviceInfo>& unit) const { return m_manager.positionOf(unit); }
+    void remove(const std::shared_ptr<DeviceInfo>& unit) { m_manager.remove(unit); }
+    void reportUpdated(int index) { emit m_manager.itemUpdated(index); }
+    const std::shared_ptr<DeviceInfo>& selected() const { return m_manager.m_selected; }
+    void select(std::shared_ptr<DeviceInfo> unit) { m_manager.select(std::move(unit)); }
+
+    /// Lists what has been announced since the last call.
+    void drainDiscovery() { m_manager.drainDiscovery(); }
+    /// Forgets what has been announced, so that only units that speak from now on are listed.
+    void restartDiscovery();
+
+private:
+    DeviceInfoManager& m_manager;
+};
+
+} // namespace orvex
