@@ -22,6 +22,7 @@ public:
     /// Forgets the content and keeps the memory.
     void Clear() { m_bytes.clear(); }
     void Reserve(std::size_t size) { m_bytes.reserve(size); }
+    std::size_t GetCapacity() const { return m_bytes.capacity(); }
     /// Takes the bytes over without a copy.
     void Assign(std::string&& bytes) { m_bytes = std::move(bytes); }
 
