@@ -186,6 +186,8 @@ void DeviceInfoManager::insert(std::shared_ptr<DeviceInfo> unit) {
                                             return wanted.compare(listed->name(), Qt::CaseInsensitive) < 0;
                                         });
     const int index = static_cast<int>(place - m_devices.begin());
+    programLog()->info("DeviceInfoManager: {} ({}) listed, at {}:{}", name.toStdString(),
+                       unit->productName().toStdString(), unit->address().toStdString(), unit->port());
     {
         const std::unique_lock lock(m_lock);
         m_devicesByUid.insert(unit->uid(), unit);
@@ -199,6 +201,7 @@ void DeviceInfoManager::remove(const std::shared_ptr<DeviceInfo>& unit) {
     if (index < 0) {
         return;
     }
+    programLog()->info("DeviceInfoManager: {} no longer listed", unit->name().toStdString());
     {
         const std::unique_lock lock(m_lock);
         m_devicesByUid.remove(unit->uid());

@@ -5,15 +5,11 @@
 #include <QGuiApplication>
 #include <QtGlobal>
 
-namespace {
-
-// The macro must stand outside every namespace.
-void initialiseResources() {
+// The macro declares a function of the enclosing namespace, so it must stand outside every one.
+static void initialiseResources() {
     Q_INIT_RESOURCE(qml);
     Q_INIT_RESOURCE(assets);
 }
-
-} // namespace
 
 namespace orvex {
 

@@ -2,6 +2,7 @@
 
 #include "device/DeviceField.h"
 #include "device/DeviceInfo.h"
+#include "device/ProgramLog.h"
 
 namespace orvex {
 
@@ -40,6 +41,7 @@ void UpdateDeviceListState::onTimer() {
     }
     m_lastPolled = nextToPoll();
     m_pollInFlight = true;
+    m_wasKnown = isFullyKnown(*m_lastPolled);
     requestFields(m_lastPolled, listedFields, pollTimeout);
 }
 
@@ -67,6 +69,11 @@ void UpdateDeviceListState::onRequestComplete(bool success) {
         return;
     }
     if (success) {
+        if (!m_wasKnown) {
+            const auto network = m_lastPolled->networkStatus();
+            programLog()->info("DeviceInfoManager: {} read, network {}", m_lastPolled->name().toStdString(),
+                               (network ? *network : NetworkStatus{}).toString().toStdString());
+        }
         reportUpdated(index);
     } else {
         m_lastPolled->incrementFailureCount();
