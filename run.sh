@@ -33,8 +33,8 @@ fi
 . tools/dependencies.sh
 require $packages_build $packages_run
 
-cmake --preset release -DBUILD_TESTING=OFF -B build/run-release >/dev/null
-cmake --build build/run-release --target Quivera kelm-simulator
+cmake --preset release >/dev/null
+cmake --build --preset release --target Quivera kelm-simulator
 
 mkdir -p build/run
 log=build/run/program.log
@@ -65,7 +65,7 @@ wait_for() {
     done
 }
 
-build/run-release/simulator/kelm-simulator --scenario tools/three-units.json >"$simulator_log" 2>&1 &
+build/release/simulator/kelm-simulator --scenario tools/three-units.json >"$simulator_log" 2>&1 &
 simulator=$!
 started+=("$simulator")
 wait_for "$simulator_log" '^all units ready' 1 20 "$simulator" ||
@@ -74,7 +74,7 @@ cat "$simulator_log"
 
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     echo "Opening the program; close its window to end."
-    build/run-release/app/Quivera 2>&1 | tee "$log"
+    build/release/app/Quivera 2>&1 | tee "$log"
     exit
 fi
 
@@ -87,7 +87,7 @@ until [ -s build/run/display ]; do
 done
 export DISPLAY=:$(cat build/run/display)
 
-build/run-release/app/Quivera >"$log" 2>&1 &
+build/release/app/Quivera >"$log" 2>&1 &
 program=$!
 started+=("$program")
 wait_for "$log" 'DeviceInfoManager: .* read, network' "$units" "$patience" "$program" ||
