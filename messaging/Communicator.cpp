@@ -44,7 +44,7 @@ void Communicator::setMessenger(std::shared_ptr<Messenger> messenger) {
     connect(this, &Communicator::requestCompleteInternal, this, &Communicator::onRequestCompleteInternal);
     m_parts = std::make_unique<Parts>(*m_messenger);
     m_parts->connectTo(*this);
-    m_parts->registerWith(*m_messenger);
+    m_parts->registerHandlers();
 }
 
 void Communicator::releaseMessenger() {
@@ -153,6 +153,11 @@ void Communicator::handleConnected() {
         }
         m_connected = true;
         m_dropping = false;
+        // What one unit has heard says nothing about another one.
+        const QString uid = m_unit->uid();
+        if (std::exchange(m_connectedUid, uid) != uid) {
+            m_parts->mediaStatus->forgetAudioState();
+        }
     }
     runConnectedProcedure();
 }
@@ -355,22 +360,51 @@ void Communicator::genericResponseHandler(QVariant key, QVariant value) {
                            name.toStdString());
         return;
     }
-    storeAnswer([&](DeviceInfo& unit) { update(unit, value); });
+    storeAnswer([&](DeviceInfo& unit) { update(*m_parts, unit, value); });
 }
 
 void Communicator::onNetworkStatusChanged(QSharedPointer<orvex::NetworkStatus> status) {
     storeAnswer([&](DeviceInfo& unit) { unit.setNetworkStatus(status); });
 }
 
-void Communicator::lastUpdateTimestampReceived(QDateTime lastUpdateTimestamp) {
-    storeAnswer([&](DeviceInfo& unit) { unit.setLibraryUpdateTime(lastUpdateTimestamp); });
+void Communicator::onAdaptiveGamingSelectedProfileChanged(
+    QSharedPointer<orvex::AdaptiveGamingSelectedProfile> profile) {
+    storeAnswer([&](DeviceInfo& unit) { unit.setAdaptiveGamingSelectedProfile(profile); });
+}
+
+void Communicator::onSoftwareHealthStatusChanged(QSharedPointer<orvex::SoftwareHealthStatus> status) {
+    storeAnswer([&](DeviceInfo& unit) { unit.setSoftwareHealthStatus(status); });
+}
+
+void Communicator::onMotionCodeStatusChanged(int statusType, QString text) {
+    storeAnswer([&](DeviceInfo& unit) { unit.setMotionCodeStatus({statusType, text}); });
+}
+
+void Communicator::onAudioSourceStatusChanged(int statusType, QString text) {
+    storeAnswer([&](DeviceInfo& unit) { unit.setAudioSourceStatus({statusType, text}); });
+}
+
+void Communicator::onMediaProgress(int offset, int duration) {
+    storeAnswer([&](DeviceInfo& unit) { unit.setMediaProgress(offset, duration); });
 }
 
 void Communicator::softwareVersionReceived(QString version) {
     storeAnswer([&](DeviceInfo& unit) { unit.setSoftwareVersion(version); });
 }
 
-void Communicator::contentUpdateStateChanged(QSharedPointer<orvex::ContentUpdateState> contentUpdateState) {
+void Communicator::lastUpdateTimestampReceived(QDateTime lastUpdateTimestamp) {
+    storeAnswer([&](DeviceInfo& unit) { unit.setLibraryUpdateTime(lastUpdateTimestamp); });
+}
+
+void Communicator::mediaListChanged(QSharedPointer<MediaList> mediaList) {
+    storeAnswer([&](DeviceInfo& unit) { unit.setMediaList(mediaList); });
+}
+
+void Communicator::detailedStatusChanged(QSharedPointer<DetailedStatusInfo> detailedStatus) {
+    storeAnswer([&](DeviceInfo& unit) { unit.setDetailedStatusInfo(detailedStatus); });
+}
+
+void Communicator::contentUpdateStateChanged(QSharedPointer<ContentUpdateState> contentUpdateState) {
     storeAnswer([&](DeviceInfo& unit) { unit.setContentUpdateState(contentUpdateState); });
 }
 

@@ -1,8 +1,12 @@
 #pragma once
 
 #include "device/DeviceUpdateRequest.h"
+#include "messaging/records/AdaptiveGamingSelectedProfile.h"
 #include "messaging/records/ContentUpdateState.h"
+#include "messaging/records/DetailedStatusInfo.h"
+#include "messaging/records/MediaList.h"
 #include "messaging/records/NetworkStatus.h"
+#include "messaging/records/SoftwareHealthStatus.h"
 
 #include <Velto/Messaging/IMessage.h>
 
@@ -87,9 +91,16 @@ public slots:
     void genericResponseHandler(QVariant key, QVariant value);
     // The answers that carry a record or a value of their own. Any thread.
     void onNetworkStatusChanged(QSharedPointer<orvex::NetworkStatus> status);
-    void lastUpdateTimestampReceived(QDateTime lastUpdateTimestamp);
+    void onAdaptiveGamingSelectedProfileChanged(QSharedPointer<orvex::AdaptiveGamingSelectedProfile> profile);
+    void onSoftwareHealthStatusChanged(QSharedPointer<orvex::SoftwareHealthStatus> status);
+    void onMotionCodeStatusChanged(int statusType, QString text);
+    void onAudioSourceStatusChanged(int statusType, QString text);
+    void onMediaProgress(int offset, int duration);
     void softwareVersionReceived(QString version);
-    void contentUpdateStateChanged(QSharedPointer<orvex::ContentUpdateState> contentUpdateState);
+    void lastUpdateTimestampReceived(QDateTime lastUpdateTimestamp);
+    void mediaListChanged(QSharedPointer<MediaList> mediaList);
+    void detailedStatusChanged(QSharedPointer<DetailedStatusInfo> detailedStatus);
+    void contentUpdateStateChanged(QSharedPointer<ContentUpdateState> contentUpdateState);
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -112,6 +123,7 @@ private:
 
     mutable std::mutex m_mutex; ///< guards all below
     std::shared_ptr<DeviceInfo> m_unit;
+    QString m_connectedUid; ///< the unit that was connected last
     std::uint32_t m_expectedFields = 0;
     std::shared_ptr<DeviceUpdateRequest> m_request;
     int m_timerId = 0;

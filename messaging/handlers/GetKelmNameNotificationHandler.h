@@ -1,19 +1,12 @@
 #pragma once
 
-#include <Velto/Messaging/IMessage.h>
-
-#include <QVariant>
-
-#include <boost/signals2/signal.hpp>
+#include "messaging/handlers/ValueHandler.h"
 
 namespace Velto::Messaging {
 
-/// Reads the unit's name. Calls `valueReceived` on the messenger's thread.
-class GetKelmNameNotificationHandler : public IResponseHandler {
+/// Reads the unit's name: reports ("GetKelmName", name), or ("SetKelmName", empty) when the unit acknowledges a new one.
+class GetKelmNameNotificationHandler : public ValueHandler {
 public:
-    /// ("GetKelmName", name), or ("SetKelmName", empty) when the unit acknowledges a new name.
-    boost::signals2::signal<void(QVariant key, QVariant value)> valueReceived;
-
     void handleResponse(std::shared_ptr<const IResponse> response) override;
 };
 
