@@ -24,7 +24,8 @@ constexpr std::size_t maximumHeaderSize = 4 * 1024;
 constexpr std::size_t maximumFrameSize = 16 * 1024 * 1024;
 
 /// One text frame: the header as compact JSON, a line feed, then the body verbatim (or nothing).
-/// None when the header or the frame would exceed its limit.
+/// None when the header (with its line feed) or the frame would exceed its limit, or the type or the text is
+/// not UTF-8.
 std::optional<std::string> encodeFrame(const Header& header, std::string_view body);
 
 /// A frame taken apart; `body` points into the frame that was decoded.
