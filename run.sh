@@ -20,7 +20,7 @@ Without a display the program is shown to a virtual one (Xvfb); once all units a
 read, a picture of the window is written to $screenshot and everything ends. The exit code is
 then 0; it is 1, with the reason, when the units do not appear within $patience s.
 
-The log is in build/run/program.log as well as in the program's own data folder.
+The program's log is in build/run/Orvex/QuiveraApp/QuiveraApp.log.
 Like every start of the program, this ends a copy of it that is already running.
 TEXT
     exit 0
@@ -36,8 +36,11 @@ require $packages_build $packages_run
 cmake --preset release >/dev/null
 cmake --build --preset release --target Quivera kelm-simulator
 
+# A data folder of its own, so that this run's log is not mixed with another's.
+rm -rf build/run
 mkdir -p build/run
-log=build/run/program.log
+export XDG_DATA_HOME=$PWD/build/run
+log=build/run/Orvex/QuiveraApp/QuiveraApp.log
 simulator_log=build/run/simulator.log
 export VELTO_DISCOVERY_INTERFACES=lo
 
@@ -74,7 +77,7 @@ cat "$simulator_log"
 
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     echo "Opening the program; close its window to end."
-    build/release/app/Quivera 2>&1 | tee "$log"
+    build/release/app/Quivera
     exit
 fi
 
@@ -87,7 +90,7 @@ until [ -s build/run/display ]; do
 done
 export DISPLAY=:$(cat build/run/display)
 
-build/release/app/Quivera >"$log" 2>&1 &
+build/release/app/Quivera &
 program=$!
 started+=("$program")
 wait_for "$log" 'DeviceInfoManager: .* read, network' "$units" "$patience" "$program" ||

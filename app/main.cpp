@@ -13,6 +13,7 @@
 #include "app/TerminationSignal.h"
 #include "app/Version.h"
 #include "app/WebView.h"
+#include "qml/UserInterface.h"
 
 #include <Velto/ApplicationInfo.h>
 #include <Velto/ComponentConfigurator.h>
@@ -80,10 +81,6 @@ void publish(QQmlContext& context, Facade& facade) {
     context.setContextProperty(QStringLiteral("api"), &facade);
     context.setContextProperty(QStringLiteral("deviceManager"), facade.deviceManager());
     context.setContextProperty(QStringLiteral("deviceListModel"), facade.deviceListModel());
-    context.setContextProperty(QStringLiteral("currDevice"), facade.deviceProxy());
-    context.setContextProperty(QStringLiteral("seatListModel"), facade.seatListModel());
-    context.setContextProperty(QStringLiteral("mediaListModel"), facade.mediaListModel());
-    context.setContextProperty(QStringLiteral("detailedStatusModel"), facade.detailedStatusModel());
 }
 
 /// From the Qt application object to its end. The objects on the stack go in the opposite order.
@@ -95,6 +92,7 @@ int runApplication(int argc, char** argv, const std::string& hostName, Logging& 
     QCoreApplication::setOrganizationDomain(QStringLiteral("com.orvex.app"));
     QQuickStyle::setStyle(QStringLiteral("Material"));
     chooseRenderer();
+    prepareUserInterface();
     const TerminationSignal terminationSignal;
 
     auto facade = std::make_shared<Facade>(hostName);
