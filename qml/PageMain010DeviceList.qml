@@ -78,7 +78,8 @@ Rectangle {
 
         ColumnLayout {
             Layout.alignment: Qt.AlignHCenter
-            Layout.preferredWidth: list.width
+            Layout.fillWidth: true
+            Layout.maximumWidth: list.width
             Layout.bottomMargin: Style.spaceLarge
             spacing: Style.spaceSmall
 
@@ -116,7 +117,7 @@ Rectangle {
 
                     Text {
                         text: addButton.text
-                        color: Style.onAccent
+                        color: Style.textOnAccent
                         wrapMode: Text.Wrap
                         font.family: Style.fontFamily
                         font.pixelSize: Style.fontBody

@@ -17,7 +17,7 @@ QtObject {
 
     readonly property color primary: "#1b2127"
     readonly property color accent: "#4fc3e8"
-    readonly property color onAccent: "#06222c"
+    readonly property color textOnAccent: "#06222c"
     readonly property color accentHovered: "#74d1ef"
     readonly property color accentPressed: "#38b0d6"
 
