@@ -184,30 +184,30 @@ void SimulatedUnit::Core::settle(ConnectionId asker) {
 SimulatedUnit::SimulatedUnit(SimulatorHost& host, const UnitOptions& options)
     : m_host(host)
     , m_core(std::make_shared<Core>(*host.m_loop, options)) {
-    m_host.m_loop->run([this] {
+    m_host.run([this] {
         if (m_host.m_responder)
             m_host.m_responder->add(m_core);
     });
 }
 
 SimulatedUnit::~SimulatedUnit() {
-    m_host.m_loop->run([this] {
+    m_host.run([this] {
         m_core->stop();
         m_core.reset();
     });
 }
 
 void SimulatedUnit::start() {
-    m_host.m_loop->run([this] { m_core->start(); });
+    m_host.run([this] { m_core->start(); });
 }
 
 void SimulatedUnit::stop() {
-    m_host.m_loop->run([this] { m_core->stop(); });
+    m_host.run([this] { m_core->stop(); });
 }
 
 bool SimulatedUnit::isRunning() const {
     bool running = false;
-    m_host.m_loop->run([&] { running = m_core->isAnnounced(); });
+    m_host.run([&] { running = m_core->isAnnounced(); });
     return running;
 }
 
@@ -221,13 +221,13 @@ const std::string& SimulatedUnit::uid() const {
 
 std::uint16_t SimulatedUnit::port() const {
     std::uint16_t port = 0;
-    m_host.m_loop->run([&] { port = m_core->port(); });
+    m_host.run([&] { port = m_core->port(); });
     return port;
 }
 
 Velto::Wire::Announcement SimulatedUnit::announcement() const {
     Velto::Wire::Announcement announcement;
-    m_host.m_loop->run([&] { announcement = m_core->announcement(); });
+    m_host.run([&] { announcement = m_core->announcement(); });
     return announcement;
 }
 
@@ -243,12 +243,12 @@ void SimulatedUnit::rename(const std::string& name) {
 
 UnitState SimulatedUnit::state() const {
     UnitState state;
-    m_host.m_loop->run([&] { state = m_core->state(); });
+    m_host.run([&] { state = m_core->state(); });
     return state;
 }
 
 void SimulatedUnit::changeState(const std::function<void(UnitState&)>& change) {
-    m_host.m_loop->run([&] { m_core->changeState(change); });
+    m_host.run([&] { m_core->changeState(change); });
 }
 
 std::size_t SimulatedUnit::push(const std::string& type, const std::string& body) {
@@ -256,33 +256,33 @@ std::size_t SimulatedUnit::push(const std::string& type, const std::string& body
     if (!frame)
         throw std::invalid_argument("the notification is too large");
     std::size_t count = 0;
-    m_host.m_loop->run([&] { count = m_core->server().broadcast(*frame); });
+    m_host.run([&] { count = m_core->server().broadcast(*frame); });
     return count;
 }
 
 void SimulatedUnit::closeConnections() {
-    m_host.m_loop->run([this] { m_core->server().closeConnections(closeGoingAway); });
+    m_host.run([this] { m_core->server().closeConnections(closeGoingAway); });
 }
 
 std::size_t SimulatedUnit::clients() const {
     std::size_t count = 0;
-    m_host.m_loop->run([&] { count = m_core->server().clients(); });
+    m_host.run([&] { count = m_core->server().clients(); });
     return count;
 }
 
 void SimulatedUnit::setFaults(const Faults& faults) {
-    m_host.m_loop->run([&] { m_core->setFaults(faults); });
+    m_host.run([&] { m_core->setFaults(faults); });
 }
 
 Faults SimulatedUnit::faults() const {
     Faults faults;
-    m_host.m_loop->run([&] { faults = m_core->faults(); });
+    m_host.run([&] { faults = m_core->faults(); });
     return faults;
 }
 
 UnitCounters SimulatedUnit::counters() const {
     UnitCounters counters;
-    m_host.m_loop->run([&] { counters = m_core->counters(); });
+    m_host.run([&] { counters = m_core->counters(); });
     return counters;
 }
 

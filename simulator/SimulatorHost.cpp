@@ -2,6 +2,8 @@
 
 #include "simulator/HostLoop.h"
 
+#include <utility>
+
 namespace Simulator {
 
 SimulatorHost::SimulatorHost(const HostOptions& options)
@@ -25,6 +27,14 @@ DiscoveryCounters SimulatorHost::discoveryCounters() const {
     DiscoveryCounters counters;
     m_loop->run([&] { counters = m_responder ? m_responder->counters() : DiscoveryCounters{}; });
     return counters;
+}
+
+void SimulatorHost::run(const std::function<void()>& task) const {
+    m_loop->run(task);
+}
+
+void SimulatorHost::after(std::chrono::milliseconds delay, std::function<void()> task) {
+    m_loop->after(delay, std::move(task));
 }
 
 } // namespace Simulator

@@ -3,7 +3,9 @@
 #include "simulator/DiscoveryResponder.h"
 #include "velto/wire/Announcement.h"
 
+#include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -29,6 +31,11 @@ public:
     /// can, or when discovery is off. Direct connections work all the same.
     std::string discoveryProblem() const;
     DiscoveryCounters discoveryCounters() const;
+
+    /// Runs the task on the host's thread and waits for it; at once when called there.
+    void run(const std::function<void()>& task) const;
+    /// Runs it there some time later; never once the host is gone.
+    void after(std::chrono::milliseconds delay, std::function<void()> task);
 
 private:
     friend class SimulatedUnit;

@@ -20,6 +20,12 @@ bool isSerial(const std::string& serial) {
            });
 }
 
+std::string madeUpSerial(const Product& product, std::size_t number) {
+    std::string digits = std::to_string(number);
+    digits.insert(0, digits.size() < 4 ? 4 - digits.size() : 0, '0');
+    return std::string(product.serialPrefix) + '-' + digits;
+}
+
 void require(bool condition, const std::string& message) {
     if (!condition)
         throw std::invalid_argument(message);
@@ -46,7 +52,7 @@ UnitOptions completed(UnitOptions options) {
     const Product* const product = findProduct(options.product);
     require(product != nullptr, "product: \"" + options.product + "\" is not one of kelm, hub, ruvello");
     if (options.serial.empty())
-        options.serial = std::string(product->serialPrefix) + "-0001";
+        options.serial = madeUpSerial(*product, options.number);
     require(isSerial(options.serial),
             "serial: \"" + options.serial + "\" has other characters than letters, digits, '.', '-' and '_'");
     if (options.name.empty())

@@ -24,8 +24,9 @@ const Product* findProduct(std::string_view key);
 struct UnitOptions {
     std::string service = "KELM";
     std::string product = "kelm"; ///< key of a Product
+    std::size_t number = 1;       ///< among the units of a process; part of a made-up serial number
     std::string name;             ///< empty: made from the product and the serial number
-    std::string serial;           ///< empty: the product's prefix and 0001; letters, digits, '.', '-' and '_'
+    std::string serial; ///< empty: the product's prefix and the number; letters, digits, '.', '-' and '_'
     std::string address = "127.0.0.1"; ///< where it listens and answers from
     std::uint16_t port = 0;            ///< 0: any free one
     bool encrypted = true;
@@ -37,7 +38,7 @@ struct UnitOptions {
 
 constexpr std::size_t maximumSeats = 64;
 constexpr std::size_t maximumMedia = 1'000'000;
-constexpr std::size_t maximumSerial = 64;
+constexpr std::size_t maximumSerial = 64; ///< what a certificate's name holds
 
 /// Fills in what was left empty. Throws std::invalid_argument, whose text begins with the option's name, for
 /// an unknown product, a bad serial number, a name the unit itself would refuse, an address that is none, or
