@@ -32,6 +32,8 @@ protected:
     bool isCommunicatorIdle() const;
     void requestFields(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields, std::uint32_t timeout);
     void cancelRequest() { m_manager.cancelRequest(); }
+    /// Whether the completion under way is of the manager's own making: no failure of the unit.
+    bool isCancelling() const { return m_manager.m_cancelling; }
     void startTimer(int milliseconds) { m_manager.startTimer(milliseconds); }
     bool isTimerRunning() const { return m_manager.m_timerId != 0; }
 

@@ -75,7 +75,7 @@ void UpdateDeviceListState::onRequestComplete(bool success) {
                                (network ? *network : NetworkStatus{}).toString().toStdString());
         }
         reportUpdated(index);
-    } else {
+    } else if (!isCancelling()) {
         m_lastPolled->incrementFailureCount();
         if (m_lastPolled->failureCount() >= failuresToDrop) {
             remove(m_lastPolled);

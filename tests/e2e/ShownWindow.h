@@ -1,0 +1,166 @@
+#pragma once
+
+#include "app/Facade.h"
+#include "qml/UserInterface.h"
+#include "simulator/SimulatedUnit.h"
+#include "simulator/SimulatorHost.h"
+
+#include <Velto/ComponentConfigurator.h>
+
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QQuickItem>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QStringList>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <mutex>
+
+namespace orvex::Test {
+
+/// Keeps the warnings that Qt and the documents utter while it lives.
+class WarningCapture {
+public:
+    WarningCapture() { qInstallMessageHandler(&take); }
+    ~WarningCapture() { qInstallMessageHandler(nullptr); }
+    WarningCapture(const WarningCapture&) = delete;
+    WarningCapture& operator=(const WarningCapture&) = delete;
+
+    static QStringList warnings() {
+        const std::lock_guard lock(mutex());
+        return all();
+    }
+
+private:
+    static void take(QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type != QtDebugMsg && type != QtInfoMsg) {
+            const std::lock_guard lock(mutex());
+            all() << text;
+        }
+    }
+    static std::mutex& mutex() {
+        static std::mutex m;
+        return m;
+    }
+    static QStringList& all() {
+        static QStringList list;
+        return list;
+    }
+};
+
+/// The program's window over the program's core, found and torn down in the program's order.
+class ShownWindow {
+public:
+    ShownWindow() {
+        VeltoExportQAutoDiscoveryComponent();
+        VeltoExportZCommComponent();
+        QQuickStyle::setStyle(QStringLiteral("Material"));
+        prepareUserInterface();
+        m_facade = std::make_shared<Facade>(std::string());
+        m_components.Init(false);
+        QQmlContext& context = *m_engine->rootContext();
+        context.setContextProperty(QStringLiteral("api"), m_facade.get());
+        context.setContextProperty(QStringLiteral("deviceManager"), m_facade->deviceManager());
+        context.setContextProperty(QStringLiteral("deviceListModel"), m_facade->deviceListModel());
+        m_engine->load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
+        m_components.Resume();
+        m_facade->start();
+    }
+
+    ~ShownWindow() { close(); }
+
+    void close() {
+        if (!m_facade) {
+            return;
+        }
+        m_engine.reset();
+        m_facade.reset();
+        m_components.Suspend();
+        m_components.Shutdown();
+    }
+
+    QQuickWindow* window() const {
+        return m_engine->rootObjects().isEmpty()
+                   ? nullptr
+                   : qobject_cast<QQuickWindow*>(m_engine->rootObjects().first());
+    }
+
+    /// The visible item of that name.
+    QQuickItem* item(const QString& name) const {
+        const auto found = items(window()->contentItem(), name);
+        return found.isEmpty() ? nullptr : found.first();
+    }
+
+    /// Each row as a person reads it, from the top to the bottom: "name | product | what needs doing".
+    QStringList rows() const {
+        QMap<qreal, QString> byPlace;
+        for (QQuickItem* row : items(window()->contentItem(), QStringLiteral("deviceRow"))) {
+            QString text =
+                row->property("displayName").toString() + " | " + row->property("productName").toString();
+            for (QQuickItem* status : items(row, QStringLiteral("statusText"))) {
+                text += " | " + status->property("text").toString();
+            }
+            byPlace.insert(row->y(), text);
+        }
+        return byPlace.values();
+    }
+
+private:
+    static QList<QQuickItem*> items(QQuickItem* parent, const QString& name) {
+        QList<QQuickItem*> found;
+        for (QQuickItem* child : parent->childItems()) {
+            if (!child->isVisible()) {
+                continue;
+            }
+            if (child->objectName() == name) {
+                found << child;
+            }
+            found << items(child, name);
+        }
+        return found;
+    }
+
+    Velto::ComponentConfigurator m_components;
+    std::shared_ptr<Facade> m_facade;
+    std::unique_ptr<QQmlApplicationEngine> m_engine = std::make_unique<QQmlApplicationEngine>();
+};
+
+/// The window and the units around it. Units are heard on the port that the program asks on.
+class WindowFixture : public testing::Test {
+protected:
+    using Unit = std::unique_ptr<Simulator::SimulatedUnit>;
+
+    void SetUp() override { ASSERT_EQ(host.discoveryProblem(), ""); }
+    void TearDown() override { EXPECT_EQ(WarningCapture::warnings(), QStringList()); }
+
+    Unit makeUnit(const std::string& product, const std::string& name, bool accessPoint = false) {
+        static int count = 0;
+        Simulator::UnitOptions options;
+        options.product = product;
+        options.name = name;
+        options.accessPoint = accessPoint;
+        options.number = static_cast<std::size_t>(++count);
+        // Every unit has an address of its own: the program holds an address to the first key it saw there.
+        options.address =
+            "127.8." + std::to_string(QCoreApplication::applicationPid() % 250) + "." + std::to_string(count);
+        auto unit = std::make_unique<Simulator::SimulatedUnit>(host, options);
+        unit->start();
+        return unit;
+    }
+
+    bool shows(const QStringList& rows, int bound = 30000) const {
+        const bool shown = QTest::qWaitFor([&] { return window.rows() == rows; }, bound);
+        EXPECT_EQ(window.rows(), rows);
+        return shown;
+    }
+
+    WarningCapture warnings;
+    Simulator::SimulatorHost host;
+    ShownWindow window;
+};
+
+} // namespace orvex::Test
