@@ -7,9 +7,6 @@ namespace {
 
 using DeviceInfoManagerTest = ManagerFixture;
 
-/// The types of failure that end a poll at once: the unit takes the connection and closes it.
-const std::set<std::string> poll = {"GetUpdate"};
-
 TEST_F(DeviceInfoManagerTest, ListsUnitsOnceByNameWhateverTheirCase) {
     for (const auto& [uid, name] :
          {std::pair{"1", "beta"}, {"2", "Alpha"}, {"3", "GAMMA"}, {"4", "Beta"}, {"2", "x"}}) {
@@ -41,89 +38,6 @@ TEST_F(DeviceInfoManagerTest, ReadsEveryUnitAndShowsANewName) {
         EXPECT_GE(update.first().toInt(), 0);
         EXPECT_LT(update.first().toInt(), 3);
     }
-}
-
-TEST_F(DeviceInfoManagerTest, AsksInTurnThoseItKnowsLeastFirst) {
-    RunningUnit units[] = {RunningUnit(host, "A"), RunningUnit(host, "B"), RunningUnit(host, "C")};
-    announce(units[0]);
-    announce(units[2]);
-    ASSERT_TRUE(eventually([&] { return manager->deviceCount() == 2 && areAllKnown(); }));
-    QStringList asked;
-    QObject::connect(manager.get(), &DeviceInfoManager::itemUpdated, manager.get(),
-                     [&](int row) { asked << manager->deviceAt(row)->name(); });
-    announce(units[1]);
-    ASSERT_TRUE(eventually([&] { return asked.size() >= 7; }));
-    const int newcomer = asked.indexOf(QStringLiteral("B"));
-    ASSERT_GE(newcomer, 0);
-    ASSERT_LE(newcomer, 2) << "it is asked as soon as it is listed";
-    EXPECT_EQ(asked.mid(newcomer, 4), QStringList({"B", "C", "A", "B"})) << "and then everybody in turn";
-}
-
-TEST_F(DeviceInfoManagerTest, OneRoundOverTheListTakesItsTimeWhateverItsLength) {
-    RunningUnit units[] = {RunningUnit(host, "A"), RunningUnit(host, "B"), RunningUnit(host, "C"),
-                           RunningUnit(host, "D")};
-    announce(units[0]);
-    ASSERT_TRUE(eventually([&] { return updated.size() == 1; }));
-    QElapsedTimer taken;
-    taken.start();
-    ASSERT_TRUE(eventually([&] { return updated.size() == 2; }));
-    EXPECT_GE(taken.elapsed(), 1700);
-    for (int unit = 1; unit < 4; ++unit) {
-        announce(units[unit]);
-    }
-    ASSERT_TRUE(eventually([&] { return manager->deviceCount() == 4 && areAllKnown(); }));
-    const int before = updated.size() + 1;
-    ASSERT_TRUE(eventually([&] { return updated.size() == before; }));
-    taken.start();
-    ASSERT_TRUE(eventually([&] { return updated.size() == before + 4; }));
-    EXPECT_GE(taken.elapsed(), 1600) << "four polls, 450 ms between each two";
-    EXPECT_LT(taken.elapsed(), 3200) << "not by the tick of 800 ms";
-}
-
-TEST_F(DeviceInfoManagerTest, DropsAUnitWithItsSecondFailureInARowAndTakesItBack) {
-    RunningUnit unit(host, "A");
-    announce(unit);
-    ASSERT_TRUE(eventually([&] { return areAllKnown(); }));
-    const auto listed = manager->deviceAt(0);
-
-    unit.fail(AnswerFault::Close, poll);
-    ASSERT_TRUE(eventually([&] { return listed->failureCount() == 1; }));
-    unit.setFaults({});
-    ASSERT_TRUE(eventually([&] { return areAllKnown(); }));
-    EXPECT_EQ(listed->failureCount(), 0) << "an answer in between resets the count";
-
-    unit.fail(AnswerFault::Close);
-    ASSERT_TRUE(eventually([&] { return !removed.isEmpty(); }));
-    EXPECT_EQ(removed.first(), QVariantList({0, 0}));
-    EXPECT_EQ(manager->deviceCount(), 0);
-    unit.setFaults({});
-    announce(unit);
-    EXPECT_TRUE(eventually([&] { return areAllKnown(); }));
-}
-
-TEST_F(DeviceInfoManagerTest, CancellingIsNoFailureOfTheUnit) {
-    RunningUnit unit(host, "A");
-    announce(unit);
-    ASSERT_TRUE(eventually([&] { return areAllKnown(); }));
-    const auto listed = manager->deviceAt(0);
-    for (int round = 0; round < 3; ++round) {
-        unit.fail(AnswerFault::Drop);
-        ASSERT_TRUE(eventually([&] { return !communicator->isIdle(); }));
-        manager->selectDevice(0);
-        EXPECT_EQ(manager->selectedDevice(), listed);
-        EXPECT_EQ(listed->failureCount(), 0);
-        EXPECT_TRUE(communicator->isIdle());
-        unit.setFaults({});
-    }
-    for (int round = 0; round < 3; ++round) {
-        unit.fail(AnswerFault::Drop);
-        manager->activateDeviceList();
-        ASSERT_TRUE(eventually([&] { return !communicator->isIdle(); }));
-    }
-    manager->activateDeviceList();
-    EXPECT_EQ(listed->failureCount(), 0);
-    EXPECT_TRUE(removed.isEmpty());
-    EXPECT_TRUE(listed->isOnline());
 }
 
 TEST_F(DeviceInfoManagerTest, GoingBackToTheListKeepsTheRowsAndDropsAnOfflineSelection) {

@@ -10,7 +10,6 @@
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQuickItem>
-#include <QQuickStyle>
 #include <QQuickWindow>
 #include <QStringList>
 #include <QTest>
@@ -25,7 +24,10 @@ namespace orvex::Test {
 /// Keeps the warnings that Qt and the documents utter while it lives.
 class WarningCapture {
 public:
-    WarningCapture() { qInstallMessageHandler(&take); }
+    WarningCapture() {
+        all().clear();
+        qInstallMessageHandler(&take);
+    }
     ~WarningCapture() { qInstallMessageHandler(nullptr); }
     WarningCapture(const WarningCapture&) = delete;
     WarningCapture& operator=(const WarningCapture&) = delete;
@@ -58,7 +60,6 @@ public:
     ShownWindow() {
         VeltoExportQAutoDiscoveryComponent();
         VeltoExportZCommComponent();
-        QQuickStyle::setStyle(QStringLiteral("Material"));
         prepareUserInterface();
         m_facade = std::make_shared<Facade>(std::string());
         m_components.Init(false);
@@ -135,7 +136,10 @@ protected:
     using Unit = std::unique_ptr<Simulator::SimulatedUnit>;
 
     void SetUp() override { ASSERT_EQ(host.discoveryProblem(), ""); }
-    void TearDown() override { EXPECT_EQ(WarningCapture::warnings(), QStringList()); }
+    void TearDown() override {
+        window.close();
+        EXPECT_EQ(WarningCapture::warnings().join(QLatin1Char('\n')).toStdString(), "");
+    }
 
     Unit makeUnit(const std::string& product, const std::string& name, bool accessPoint = false) {
         static int count = 0;
