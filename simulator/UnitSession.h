@@ -34,7 +34,7 @@ namespace websocket = beast::websocket;
 constexpr std::chrono::seconds handshakeTime{10}; ///< for each of TLS, the HTTP request and the upgrade
 constexpr std::chrono::seconds pingInterval{5};
 constexpr std::chrono::seconds longestSilence{15};
-constexpr std::size_t maximumRequestHeader = 8 * 1024;
+constexpr std::size_t maximumRequestHeader = std::size_t{8} * 1024;
 constexpr std::size_t maximumQueue = 1024; ///< frames that wait for a client that does not read
 
 using PlainStream = beast::tcp_stream;
