@@ -58,10 +58,9 @@ protected:
 TEST_F(DiscovererTest, KeepsOneEntryPerUnitInOrderOfFirstHearing) {
     for (const char* uid : {"x", "y", "z", "x"})
         EXPECT_TRUE(discoverer.announce(unit(uid), 1s));
-    EXPECT_TRUE(discoverer.announce(unit("y", "renamed", "moved"), 1s));
+    EXPECT_TRUE(discoverer.announce(unit("y", "renamed"), 1s));
     EXPECT_EQ(uids(), "xyz");
     EXPECT_EQ(discoverer.getDiscoveredAt(1)->getName(), "renamed");
-    EXPECT_EQ(discoverer.getDiscoveredAt(1)->getAddress(), "moved");
     EXPECT_EQ(discoverer.getDiscoveredAt(3), nullptr);
 }
 
@@ -79,6 +78,25 @@ TEST_F(DiscovererTest, TellsEveryAnnouncementWhateverAnObserverDoes) {
     EXPECT_EQ(failing->heard, (std::vector<std::string>{"x", "x", "x"}));
     EXPECT_EQ(other->heard, failing->heard);
     EXPECT_EQ(other->sizes, (std::vector<std::size_t>{1, 1, 1}));
+}
+
+TEST_F(DiscovererTest, KeepsTheAddressOfAUnitHeardAtTwoUntilTheFirstFallsSilent) {
+    const auto observer = std::make_shared<Counter>(discoverer);
+    discoverer.AddObserver(observer);
+    const auto address = [this] { return discoverer.getDiscoveredAt(0)->getAddress(); };
+    for (int period = 0; period < 5; ++period) {
+        discoverer.announce(unit("x", "n", "wired"), 3s);
+        EXPECT_TRUE(discoverer.announce(unit("x", "n", "wireless"), 3s));
+        EXPECT_EQ(address(), "wired");
+        now += 1s;
+    }
+    EXPECT_EQ(observer->heard.size(), 5U);
+    now += 1s;
+    discoverer.announce(unit("x", "n", "wireless"), 3s);
+    EXPECT_EQ(address(), "wireless");
+    discoverer.removeDiscovered("x");
+    discoverer.announce(unit("x", "n", "wired"), 3s);
+    EXPECT_EQ(address(), "wired");
 }
 
 TEST_F(DiscovererTest, ExpiresWhatWasNotHeardAgain) {

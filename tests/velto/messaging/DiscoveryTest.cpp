@@ -2,6 +2,8 @@
 #include "TestAnnouncer.h"
 #include "wire/Announcement.h"
 
+#include <cstdlib>
+
 namespace Velto::Test {
 namespace {
 
@@ -28,6 +30,12 @@ public:
 
 class DiscoveryTest : public MessengerFixture {
 protected:
+    void SetUp() override {
+        const char* const restriction = std::getenv("VELTO_DISCOVERY_INTERFACES");
+        ASSERT_TRUE(restriction && std::string(restriction) == "lo") << "probes must not leave this machine";
+        MessengerFixture::SetUp();
+    }
+
     /// The shortest period there is.
     static constexpr std::int32_t period = 100;
 
