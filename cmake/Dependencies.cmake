@@ -27,7 +27,9 @@ target_link_libraries(quivera_asio PRIVATE quivera_flags
 target_compile_definitions(quivera_asio PUBLIC BOOST_ASIO_NO_DEPRECATED BOOST_ASIO_SEPARATE_COMPILATION
   BOOST_BEAST_USE_STD_STRING_VIEW)
 if(WIN32)
-  target_compile_options(quivera_asio PUBLIC -Wa,-mbig-obj)
+  # Unoptimised, Beast's templates exceed even the large object format.
+  target_compile_options(quivera_asio PUBLIC -Wa,-mbig-obj
+    $<$<NOT:$<CONFIG:Release,RelWithDebInfo,MinSizeRel>>:-O1>)
   target_link_libraries(quivera_asio PUBLIC ws2_32 mswsock crypt32 bcrypt)
 endif()
 
