@@ -67,6 +67,8 @@ public:
         settle();
     }
 
+    void setFrameListener(std::function<void(std::string_view)> ear) { m_ear = std::move(ear); }
+
     void setFaults(const Faults& faults) {
         m_faults = faults;
         const bool open = m_running && faults.connection != ConnectionFault::Refuse;
@@ -126,12 +128,15 @@ private:
     UnitState m_state;
     Faults m_faults;
     UnitCounters m_counters;
+    std::function<void(std::string_view)> m_ear;
     bool m_running = false;
     UnitServer m_server; // last: it calls the rest until it is gone
 };
 
 void SimulatedUnit::Core::frameReceived(ConnectionId connection, std::string_view frame) {
     m_counters.bytesReceived += frame.size();
+    if (m_ear)
+        m_ear(frame);
     DecodedFrame decoded;
     const FrameError error = decodeFrame(frame, decoded);
     if (error == FrameError::HeaderTooLarge || error == FrameError::FrameTooLarge) {
@@ -284,6 +289,10 @@ UnitCounters SimulatedUnit::counters() const {
     UnitCounters counters;
     m_host.run([&] { counters = m_core->counters(); });
     return counters;
+}
+
+void SimulatedUnit::setFrameListener(std::function<void(std::string_view)> ear) {
+    m_host.run([&] { m_core->setFrameListener(std::move(ear)); });
 }
 
 } // namespace Simulator

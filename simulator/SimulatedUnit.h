@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace Simulator {
 
@@ -71,6 +72,10 @@ public:
     void setFaults(const Faults& faults);
     Faults faults() const;
     UnitCounters counters() const;
+
+    /// Lets `ear` hear every frame as it comes in, before the unit acts on it, on the host's thread; none for
+    /// nobody.
+    void setFrameListener(std::function<void(std::string_view frame)> ear);
 
 private:
     class Core;
