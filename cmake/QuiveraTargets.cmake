@@ -13,7 +13,11 @@ if(QUIVERA_SANITIZE)
     -fno-sanitize-recover=all)
   target_link_options(quivera_flags INTERFACE -fsanitize=${QUIVERA_SANITIZE})
   # GCC's sanitizer instrumentation breaks its own flow analysis of these two.
-  target_compile_options(quivera_flags INTERFACE -Wno-maybe-uninitialized $<$<CXX_COMPILER_ID:GNU>:-Wno-stringop-overflow -Wno-tsan>)
+  target_compile_options(quivera_flags INTERFACE
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-stringop-overflow>
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-tsan>
+    $<$<CXX_COMPILER_ID:Clang>:-fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/sanitizer-ignorelist.txt>)
 endif()
 if(WIN32)
   target_compile_definitions(quivera_flags INTERFACE _WIN32_WINNT=0x0A00 WIN32_LEAN_AND_MEAN NOMINMAX
