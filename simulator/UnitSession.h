@@ -121,8 +121,8 @@ public:
     void close(std::uint16_t code) override {
         if (!m_open)
             return;
-        if (m_silent) {
-            end(); // half a frame is out: no word can follow it
+        if (m_silent || !m_upgraded) {
+            end(); // half a frame or half a response is out: no word can follow it
             return;
         }
         m_open = false;
@@ -226,12 +226,18 @@ private:
         m_socket.read_message_max(Velto::Wire::maximumFrameSize);
         m_socket.control_callback(
             [this](websocket::frame_type /*type*/, beast::string_view /*payload*/) { heard(); });
+        // Open from here on: the client may know of the upgrade before we learn that our word of it is out,
+        // and must miss nothing that is sent from then on. It waits in the queue until then.
+        m_open = true;
+        m_delivering = true;
+        m_unit->connectionOpened();
         m_socket.async_accept(m_parser.get(), then([](UnitSession& self) {
-                                  self.m_open = true;
+                                  self.m_upgraded = true;
+                                  self.m_delivering = false;
                                   self.heard();
-                                  self.m_unit->connectionOpened();
                                   self.keepAlive();
-                                  self.read();
+                                  self.deliverNext();
+                                  self.readOn();
                               }));
     }
 
@@ -379,7 +385,8 @@ private:
     std::multimap<std::chrono::steady_clock::time_point, Outgoing> m_queue;
     Outgoing m_current;
     std::string m_raw;
-    bool m_open = false;
+    bool m_open = false;     ///< takes frames
+    bool m_upgraded = false; ///< and lets them out
     bool m_reading = false;
     bool m_delivering = false;
     bool m_silent = false;

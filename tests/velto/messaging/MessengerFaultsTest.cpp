@@ -103,7 +103,7 @@ TEST_F(MessengerFaultsTest, IsLostAtOnceWhenDisconnectedFromAHungPeer) {
         expected.emplace_back("connected");
         ASSERT_TRUE(recorder->hears(expected));
         // More than the sockets between them hold, so that a frame is stuck half way.
-        messenger->send(makeMessage("Big", std::string(8 * 1024 * 1024, 'x')));
+        messenger->send(makeMessage("Big", std::string(Wire::maximumFrameSize / 2, 'x')));
         const auto begin = Clock::now();
         messenger->disconnect();
         expected.emplace_back("lost");
@@ -117,7 +117,7 @@ TEST_F(MessengerFaultsTest, BoundsWhatWaitsForAPeerThatDoesNotRead) {
     const TestPeer peer(true, Manner::StopReading);
     choose(peer);
     ASSERT_TRUE(recorder->hears({"connected"}));
-    const auto message = makeMessage("Big", std::string(8 * 1024 * 1024, 'x'));
+    const auto message = makeMessage("Big", std::string(Wire::maximumFrameSize / 2, 'x'));
     auto result = CommunicationResult::Success;
     for (int sent = 0; sent < 20 && result == CommunicationResult::Success; ++sent)
         result = messenger->send(message);

@@ -166,7 +166,7 @@ TEST_F(MessengerTest, MayBeCalledInsideItsCallbacks) {
 
 TEST_F(MessengerTest, DropsUnreadableMessagesWithOneLineAndGoesOn) {
     std::ostringstream written;
-    const auto logger = std::make_shared<spdlog::logger>(
+    auto logger = std::make_shared<spdlog::logger>(
         "messages", std::make_shared<spdlog::sinks::ostream_sink_mt>(written, true));
     InitLoggerInterprocMessaging([&](const std::string&) { return logger; });
     TestPeer peer(true);

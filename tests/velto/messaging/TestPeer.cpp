@@ -142,10 +142,9 @@ public:
     }
 
     void send(const std::string& message) override {
-        if (!m_open)
-            return;
+        // The other end may know that the connection stands before this one does.
         m_outgoing.push_back(message);
-        if (m_outgoing.size() == 1)
+        if (m_open && m_outgoing.size() == 1)
             writeNext();
     }
 
@@ -185,6 +184,8 @@ private:
             if (error)
                 return;
             m_open = true;
+            if (!m_outgoing.empty())
+                writeNext();
             behave();
         });
     }
