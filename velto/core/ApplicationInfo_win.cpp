@@ -1,9 +1,11 @@
 #include "core/SystemFolders.h"
 
-// windows.h must come before the shell's header, which does not include it.
+// The system's own header first: the shell's does not include it.
+// clang-format off
+#include <windows.h>
 #include <objbase.h>
 #include <shlobj.h>
-#include <windows.h>
+// clang-format on
 
 #include <memory>
 #include <vector>

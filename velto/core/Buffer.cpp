@@ -45,16 +45,19 @@ std::shared_ptr<ManagedBuffer> BufferQueue::AcquireBuffer(std::size_t size, bool
 }
 
 void BufferQueue::giveBack(Buffer&& buffer) {
-    buffer.Clear();
     // One large message must not keep its memory for good, and bytes that were assigned bring memory of
     // their own size: whatever strayed from the queue's size is replaced.
-    if (buffer.GetCapacity() > 4 * m_size || buffer.GetCapacity() < m_size) {
-        buffer = Buffer();
-        buffer.Reserve(m_size);
+    const std::size_t capacity = buffer.GetCapacity();
+    Buffer returned;
+    if (capacity >= m_size && capacity <= 4 * m_size) {
+        returned = std::move(buffer);
+        returned.Clear();
+    } else {
+        returned.Reserve(m_size);
     }
     {
         const std::lock_guard lock(m_mutex);
-        m_idle.push_back(std::move(buffer));
+        m_idle.push_back(std::move(returned));
     }
     m_returned.notify_one();
 }

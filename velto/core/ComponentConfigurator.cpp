@@ -65,10 +65,11 @@ void RegisterComponent(const char* name, std::unique_ptr<Component> (*create)())
 ComponentConfigurator::ComponentConfigurator() = default;
 
 ComponentConfigurator::~ComponentConfigurator() {
-    if (!m_components.empty()) {
+    if (m_running) {
         Suspend();
         Shutdown();
     }
+    releaseComponents();
 }
 
 Component::Result ComponentConfigurator::Init(bool resume) {
@@ -90,19 +91,27 @@ Component::Result ComponentConfigurator::Init(bool resume) {
 }
 
 Component::Result ComponentConfigurator::Resume() {
+    m_running = true;
     return drive(m_components.begin(), m_components.end(), "Resume", &Component::Resume);
 }
 
 Component::Result ComponentConfigurator::Suspend() {
+    m_running = false;
     return drive(m_components.rbegin(), m_components.rend(), "Suspend", &Component::Suspend);
 }
 
 Component::Result ComponentConfigurator::Shutdown() {
     const auto result = drive(m_components.rbegin(), m_components.rend(), "Shutdown", &Component::Shutdown);
+    releaseComponents();
+    m_running = false;
+    return result;
+}
+
+void ComponentConfigurator::releaseComponents() {
+    // A vector's own order would be the order of creation.
     while (!m_components.empty()) {
         m_components.pop_back();
     }
-    return result;
 }
 
 } // namespace Velto

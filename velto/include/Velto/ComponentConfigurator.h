@@ -13,7 +13,7 @@ namespace Velto {
 class ComponentConfigurator {
 public:
     ComponentConfigurator();
-    /// Suspends and shuts down what still runs.
+    /// Suspends and shuts down what was resumed and still runs; components that were never resumed just go.
     ~ComponentConfigurator();
     ComponentConfigurator(const ComponentConfigurator&) = delete;
     ComponentConfigurator& operator=(const ComponentConfigurator&) = delete;
@@ -25,7 +25,10 @@ public:
     Component::Result Shutdown();
 
 private:
+    void releaseComponents();
+
     std::vector<std::unique_ptr<Component>> m_components;
+    bool m_running = false;
 };
 
 /// Makes a component known to the next `ComponentConfigurator::Init`. A second registration under the same

@@ -1,0 +1,7 @@
+#include "app/Console.h"
+
+namespace orvex {
+
+void attachToParentConsole() {}
+
+} // namespace orvex

@@ -1,0 +1,7 @@
+#include "app/WebView.h"
+
+namespace orvex {
+
+void initializeWebView() {}
+
+} // namespace orvex

@@ -1,0 +1,118 @@
+#include <Velto/CrashHandler.h>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#ifndef _WIN32
+#include <sys/wait.h>
+#endif
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Crash {
+    const char* how;
+    const char* cause; ///< in the report; none: no report
+    const char* told;  ///< what the observer noted
+    int signal;        ///< that ends the process
+    unsigned windowsExitCode;
+};
+
+void PrintTo(const Crash& crash, std::ostream* out) {
+    *out << crash.how;
+}
+
+constexpr unsigned accessViolation = 0xC0000005;
+constexpr unsigned stackOverflow = 0xC00000FD;
+
+class CrashTest : public testing::TestWithParam<Crash> {
+protected:
+    void SetUp() override { fs::remove_all(m_folder); }
+    void TearDown() override { fs::remove_all(m_folder); }
+
+    /// Runs the crashing program to its end.
+    void run() {
+#ifdef _WIN32
+        const auto code = static_cast<unsigned>(std::system(
+            (std::string(CRASHING_PROGRAM) + " " + m_folder.string() + " " + GetParam().how).c_str()));
+        EXPECT_EQ(code, GetParam().windowsExitCode);
+#else
+        // No core files; and the program in place of the shell, so that its own signal is seen.
+        const std::string command = std::string("ulimit -c 0; exec '") + CRASHING_PROGRAM + "' '" +
+                                    m_folder.string() + "' " + GetParam().how;
+        const int status = std::system(command.c_str());
+        ASSERT_TRUE(WIFSIGNALED(status)) << status;
+        EXPECT_EQ(WTERMSIG(status), GetParam().signal);
+#endif
+    }
+
+    fs::path dataFolder() const {
+        return m_folder / "Orvex" / fs::u8path(u8"Zoë-席");
+    }
+
+    static std::string content(const fs::path& file) {
+        std::ifstream stream(file);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+    const fs::path m_folder = fs::temp_directory_path() / (std::string("velto-crash-") + GetParam().how);
+};
+
+TEST_P(CrashTest, IsRecordedThenToldOnceThenEndsTheProcessAsTheSystemWould) {
+    run();
+    EXPECT_EQ(content(dataFolder() / "told"), GetParam().told);
+    std::string report;
+    int reports = 0;
+    for (const auto& entry : fs::directory_iterator(dataFolder())) {
+        if (entry.path().filename().string().rfind("CrashTest-crash-20", 0) == 0) {
+            report = content(entry);
+            ++reports;
+        }
+    }
+    ASSERT_EQ(reports, GetParam().cause ? 1 : 0);
+    if (!GetParam().cause) {
+        return;
+    }
+    EXPECT_NE(report.find("Crash Test 1.2.3"), std::string::npos) << report;
+    EXPECT_NE(report.find(GetParam().cause), std::string::npos) << report;
+    const std::size_t backtrace = report.find("Backtrace:\n");
+    ASSERT_NE(backtrace, std::string::npos) << report;
+    EXPECT_NE(report.find("crashing_program", backtrace), std::string::npos) << report;
+}
+
+#ifdef _WIN32
+constexpr const char* memoryFault = "Cause: exception 0xc0000005";
+constexpr const char* overflowFault = "Cause: exception 0xc00000fd";
+constexpr const char* abortCause = "Cause: abort";
+#else
+constexpr const char* memoryFault = "Cause: SIGSEGV at address 0x40";
+constexpr const char* overflowFault = "Cause: SIGSEGV";
+constexpr const char* abortCause = "Cause: SIGABRT";
+#endif
+
+INSTANTIATE_TEST_SUITE_P(Every, CrashTest,
+                         testing::Values(Crash{"memory", memoryFault, "report;", SIGSEGV, accessViolation},
+                                         Crash{"thread", memoryFault, "report;", SIGSEGV, accessViolation},
+                                         Crash{"overflow", overflowFault, "report;", SIGSEGV, stackOverflow},
+                                         Crash{"abort", abortCause, "report;", SIGABRT, 3},
+                                         Crash{"exception",
+                                               "uncaught exception std::runtime_error: seat 3 on fire",
+                                               "report;", SIGABRT, 3},
+                                         Crash{"observer", memoryFault, "report;", SIGSEGV, accessViolation},
+                                         Crash{"disabled", nullptr, "", SIGABRT, 3}),
+                         [](const auto& crash) { return std::string(crash.param.how); });
+
+TEST(CrashHandler, IsNotInstalledWithoutAFolderForItsReports) {
+    const auto handler = Velto::CrashHandler::getInstance();
+    EXPECT_FALSE(handler->configure({"name", fs::temp_directory_path() / "no-such-folder-here", true}));
+    EXPECT_FALSE(handler->initialize());
+}
+
+} // namespace
