@@ -121,8 +121,12 @@ public:
     void close(std::uint16_t code) override {
         if (!m_open)
             return;
-        if (m_silent || !m_upgraded) {
-            end(); // half a frame or half a response is out: no word can follow it
+        if (m_silent) {
+            end(); // half a frame is out: no word can follow it
+            return;
+        }
+        if (!m_upgraded) {
+            m_closeWhenUp = code;
             return;
         }
         m_open = false;
@@ -235,10 +239,18 @@ private:
                                   self.m_upgraded = true;
                                   self.m_delivering = false;
                                   self.heard();
-                                  self.keepAlive();
-                                  self.deliverNext();
-                                  self.readOn();
+                                  self.beginTalk();
                               }));
+    }
+
+    void beginTalk() {
+        if (m_closeWhenUp) {
+            close(*m_closeWhenUp);
+            return;
+        }
+        keepAlive();
+        deliverNext();
+        readOn();
     }
 
     void heard() { m_lastHeard = std::chrono::steady_clock::now(); }
@@ -385,6 +397,7 @@ private:
     std::multimap<std::chrono::steady_clock::time_point, Outgoing> m_queue;
     Outgoing m_current;
     std::string m_raw;
+    std::optional<std::uint16_t> m_closeWhenUp;
     bool m_open = false;     ///< takes frames
     bool m_upgraded = false; ///< and lets them out
     bool m_reading = false;
