@@ -13,6 +13,7 @@
 #include "app/TerminationSignal.h"
 #include "app/Version.h"
 #include "app/WebView.h"
+#include "qml/UserInterface.h"
 
 #include <Velto/ApplicationInfo.h>
 #include <Velto/ComponentConfigurator.h>
@@ -95,6 +96,7 @@ int runApplication(int argc, char** argv, const std::string& hostName, Logging& 
     QCoreApplication::setOrganizationDomain(QStringLiteral("com.orvex.app"));
     QQuickStyle::setStyle(QStringLiteral("Material"));
     chooseRenderer();
+    prepareUserInterface();
     const TerminationSignal terminationSignal;
 
     auto facade = std::make_shared<Facade>(hostName);

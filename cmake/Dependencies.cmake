@@ -23,11 +23,18 @@ else()
   find_package(spdlog REQUIRED)
 endif()
 
-# Boost.Asio and Beast, compiled once per user: only sources that really talk to a socket link this.
-add_library(quivera_asio INTERFACE)
-target_link_libraries(quivera_asio INTERFACE Boost::headers OpenSSL::SSL OpenSSL::Crypto Threads::Threads)
-target_compile_definitions(quivera_asio INTERFACE BOOST_ASIO_NO_DEPRECATED BOOST_ASIO_SEPARATE_COMPILATION
+# Boost.Asio and Beast: only sources that really talk to a socket link this. Asio's own code is compiled here, once.
+add_library(quivera_asio STATIC ${PROJECT_SOURCE_DIR}/velto/asio/Asio.cpp)
+target_link_libraries(quivera_asio PRIVATE quivera_flags
+  PUBLIC Boost::headers OpenSSL::SSL OpenSSL::Crypto Threads::Threads)
+target_compile_definitions(quivera_asio PUBLIC BOOST_ASIO_NO_DEPRECATED BOOST_ASIO_SEPARATE_COMPILATION
   BOOST_BEAST_USE_STD_STRING_VIEW)
+if(WIN32)
+  # Unoptimised, Beast's templates exceed even the large object format.
+  target_compile_options(quivera_asio PUBLIC -Wa,-mbig-obj
+    $<$<NOT:$<CONFIG:Release,RelWithDebInfo,MinSizeRel>>:-O1>)
+  target_link_libraries(quivera_asio PUBLIC ws2_32 mswsock crypt32 bcrypt)
+endif()
 
 if(BUILD_TESTING)
   if(CMAKE_CROSSCOMPILING)

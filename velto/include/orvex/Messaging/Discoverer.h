@@ -5,7 +5,9 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <list>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -47,23 +49,35 @@ public:
     void clearDiscovered();
 
     /// Takes in one announcement that holds good for `lifetime`, then tells the observers. A second one of
-    /// the same uid replaces the first. False when the list is full.
+    /// the same uid replaces the first. False when the list is full. A unit that is heard at two addresses
+    /// keeps the one it has: what comes from the other is passed over in silence until the first has not been
+    /// heard for two thirds of its lifetime.
     bool announce(Discovered::Values values, Clock::duration lifetime);
 
-    /// The uid announced for that address and port; empty when none is.
+    bool holds(const std::string& uid) const;
+
+    /// The uid announced for that address and port, the latest if several were; empty when none is.
     std::string expectedUid(const std::string& address, std::uint16_t port) const;
 
 private:
     struct Entry {
         std::shared_ptr<Discovered> discovered;
         Clock::time_point expires;
-        std::uint64_t order = 0;
+        Clock::time_point movableFrom; ///< another address is not believed before
+        std::uint64_t heard = 0;       ///< grows with each announcement
     };
+    using Entries = std::list<Entry>;
+
+    enum class Stored { Yes, PassedOver, Full };
+    Stored store(std::shared_ptr<Discovered> discovered, Clock::duration lifetime);
+    template <class Condition>
+    void removeIf(Condition condition);
 
     std::function<Clock::time_point()> m_now;
     mutable std::mutex m_mutex;
-    std::unordered_map<std::string, Entry> m_entries; ///< by uid
-    std::uint64_t m_nextOrder = 0;
+    Entries m_entries;
+    std::unordered_map<std::string, Entries::iterator> m_byUid;
+    std::uint64_t m_announcements = 0;
 };
 
 } // namespace orvex::Messaging

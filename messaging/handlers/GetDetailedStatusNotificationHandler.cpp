@@ -1,0 +1,81 @@
+#include "messaging/handlers/GetDetailedStatusNotificationHandler.h"
+
+#include "messaging/handlers/BodyReader.h"
+#include "messaging/senders/MessageSender.h"
+
+#include <Velto/Messaging/BodyJSONParser.h>
+#include <Velto/Messaging/Messenger.h>
+
+namespace Velto::Messaging {
+
+using orvex::DetailedStatusInfo;
+using orvex::ModuleInfo;
+using orvex::StatusField;
+
+namespace {
+
+constexpr auto messageType = "GetHapticSystemStatus";
+
+constexpr Body::Member<StatusField> fieldMembers[] = {
+    {"Id", &Body::field<&StatusField::id>},
+    {"Name", &Body::field<&StatusField::name>},
+    {"Value", &Body::field<&StatusField::value>},
+    {"Unit", &Body::field<&StatusField::unit>},
+    {"Description", &Body::field<&StatusField::description>},
+    {"Type", &Body::field<&StatusField::type>},
+    {"Category", &Body::field<&StatusField::category>},
+};
+
+QString numberText(const Body::Value& number) {
+    if (number.IsInt64()) {
+        return QString::number(number.GetInt64());
+    }
+    return number.IsUint64() ? QString::number(number.GetUint64()) : QString::number(number.GetDouble(), 'f', 2);
+}
+
+// Recursion is bounded: a body's nesting is.
+std::shared_ptr<ModuleInfo> parseModule(const Body::Value& name, const Body::Value& object) { // NOLINT(misc-no-recursion)
+    auto module = std::make_shared<ModuleInfo>();
+    module->name = Body::toQString(name);
+    for (const auto& member : object.GetObject()) {
+        const auto& value = member.value;
+        if (value.IsString()) {
+            module->properties.emplace_back(Body::toQString(member.name), Body::toQString(value));
+        } else if (value.IsNumber()) {
+            module->properties.emplace_back(Body::toQString(member.name), numberText(value));
+        } else if (value.IsObject() && Body::textOf(member.name) == "Field") {
+            Body::readMembers(value, module->fields.emplace_back(), fieldMembers);
+        } else if (value.IsObject()) {
+            module->subModules.push_back(parseModule(member.name, value));
+        }
+    }
+    return module;
+}
+
+} // namespace
+
+// The unit wants this one request's argument empty.
+GetDetailedStatusNotificationHandler::GetDetailedStatusNotificationHandler()
+    : m_request(makeGetMessage(messageType, "")) {}
+
+void GetDetailedStatusNotificationHandler::registerWith(Messenger& messenger) {
+    messenger.registerResponse(messageType, messageNumber, shared_from_this());
+}
+
+void GetDetailedStatusNotificationHandler::sendRequest(Messenger& messenger) const { messenger.send(m_request); }
+
+void GetDetailedStatusNotificationHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    QSharedPointer<DetailedStatusInfo> info;
+    const auto body = BodyJSONParser::parse(response);
+    if (!body->ObjectEmpty()) {
+        info = QSharedPointer<DetailedStatusInfo>::create();
+        for (const auto& member : body->GetObject()) {
+            if (member.value.IsObject()) {
+                info->modules.push_back(parseModule(member.name, member.value));
+            }
+        }
+    }
+    emit detailedStatusInfoChanged(info);
+}
+
+} // namespace Velto::Messaging

@@ -1,0 +1,12 @@
+#include "messaging/senders/SetKelmNameNotificationSender.h"
+
+namespace Velto::Messaging {
+
+void SetKelmNameNotificationSender::triggerSendKelmName(QString kelmName) {
+    sendObject("SetKelmName", [&kelmName](Writer& writer) {
+        writer.Key("kelmName");
+        writeText(writer, kelmName);
+    });
+}
+
+} // namespace Velto::Messaging

@@ -1,0 +1,145 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+import "."
+
+// All units on the network.
+Rectangle {
+    id: root
+
+    property alias model: list.model
+
+    signal addDevice
+    signal deviceTapped(int index)
+
+    color: Style.background
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        WidgetPageTitle {
+            Layout.fillWidth: true
+            title: qsTr("ORVEX SYSTEMS")
+        }
+
+        Item {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+
+            ListView {
+                id: list
+                objectName: "deviceList"
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(parent.width - 2 * Style.spaceMedium, Style.contentWidth)
+                topMargin: Style.spaceLarge
+                bottomMargin: Style.spaceLarge
+                spacing: Style.spaceMedium
+                clip: true
+                boundsBehavior: Flickable.StopAtBounds
+                keyNavigationEnabled: true
+                Accessible.role: Accessible.List
+                Accessible.name: qsTr("ORVEX SYSTEMS")
+
+                ScrollBar.vertical: ScrollBar {}
+
+                delegate: ButtonDevice {
+                    required property int index
+                    required property var model
+
+                    objectName: "deviceRow"
+                    width: list.width
+                    deviceName: model.name
+                    productName: model.productName
+                    localAddress: model.localAddress
+                    needsAttention: model.hotspotActive
+                    statusText: model.hotspotActive ? qsTr("Network Setup Required") : [model.contentUpdateStateText, model.contentUpdateState2ndText].filter(text => text.length > 0).join("\n")
+                    onClicked: root.deviceTapped(index)
+                }
+            }
+
+            Text {
+                objectName: "emptyText"
+                anchors.centerIn: parent
+                width: list.width
+                visible: list.count === 0
+                text: qsTr("No Quivera device found.\nTap the \"Add Quivera Device\"\nbutton below.")
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+                color: Style.textSecondary
+                font.family: Style.fontFamily
+                font.pixelSize: Style.fontTitle
+                lineHeight: 1.3
+            }
+        }
+
+        ColumnLayout {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.fillWidth: true
+            Layout.maximumWidth: list.width
+            Layout.bottomMargin: Style.spaceLarge
+            spacing: Style.spaceSmall
+
+            Button {
+                id: addButton
+                objectName: "addButton"
+                Layout.fillWidth: true
+                implicitHeight: Math.max(Style.touchTarget, contentItem.implicitHeight + 2 * Style.spaceMedium)
+                text: qsTr("Add Quivera Device from Network")
+                hoverEnabled: true
+                Accessible.name: text
+                Accessible.description: addHint.text
+                onClicked: root.addDevice()
+                Keys.onReturnPressed: clicked()
+                Keys.onEnterPressed: clicked()
+
+                background: WidgetButtonBackground {
+                    hovered: addButton.hovered
+                    pressed: addButton.down
+                    focused: addButton.visualFocus
+                }
+
+                contentItem: RowLayout {
+                    spacing: Style.spaceSmall
+
+                    Item {
+                        Layout.fillWidth: true
+                    }
+
+                    Image {
+                        source: Style.symbolAdd
+                        sourceSize.width: Style.symbol
+                        sourceSize.height: Style.symbol
+                    }
+
+                    Text {
+                        text: addButton.text
+                        color: Style.textOnAccent
+                        wrapMode: Text.Wrap
+                        font.family: Style.fontFamily
+                        font.pixelSize: Style.fontBody
+                        font.weight: Font.Medium
+                    }
+
+                    Item {
+                        Layout.fillWidth: true
+                    }
+                }
+            }
+
+            Text {
+                id: addHint
+                Layout.fillWidth: true
+                text: qsTr("Connect a Orvex device to your Wi-Fi")
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+                color: Style.textSecondary
+                font.family: Style.fontFamily
+                font.pixelSize: Style.fontSmall
+            }
+        }
+    }
+}

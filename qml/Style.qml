@@ -1,0 +1,64 @@
+pragma Singleton
+
+import QtQuick 2.15
+
+// Every colour, size, font and symbol of the user interface. One scale of each.
+QtObject {
+    // Dark surfaces, from the back to the front. Text on each of them has a contrast of at least 4.5:1.
+    readonly property color background: "#101418"
+    readonly property color surface: "#1b2127"
+    readonly property color surfaceHovered: "#232b33"
+    readonly property color surfacePressed: "#2b353f"
+    readonly property color outline: "#3a4650"
+
+    readonly property color text: "#f2f5f7"
+    readonly property color textSecondary: "#b3bec7"
+    readonly property color textDisabled: "#7d8993"
+
+    readonly property color primary: "#1b2127"
+    readonly property color accent: "#4fc3e8"
+    readonly property color textOnAccent: "#06222c"
+    readonly property color accentHovered: "#74d1ef"
+    readonly property color accentPressed: "#38b0d6"
+
+    readonly property color attention: "#f5b95a"
+
+    // Space, in steps of 4.
+    readonly property int spaceTiny: 4
+    readonly property int spaceSmall: 8
+    readonly property int spaceMedium: 16
+    readonly property int spaceLarge: 24
+    readonly property int spaceHuge: 48
+
+    readonly property int radius: 10
+    readonly property int focusRingWidth: 2
+    readonly property int touchTarget: 48
+    readonly property int titleBarHeight: 72
+    readonly property int deviceIcon: 64
+    readonly property int symbol: 24
+    readonly property int contentWidth: 680
+
+    readonly property string fontFamily: "Roboto"
+    readonly property int fontSmall: 13
+    readonly property int fontBody: 15
+    readonly property int fontTitle: 18
+    readonly property int fontHeading: 24
+
+    readonly property int windowWidth: 750
+    readonly property int windowHeight: 900
+
+    readonly property url logo: "qrc:/qml/images/logo.svg"
+    readonly property url symbolAdd: "qrc:/qml/images/add.svg"
+    readonly property url symbolAttention: "qrc:/qml/images/attention.svg"
+
+    // By product name as the units announce it.
+    readonly property var productImages: ({
+            "KELM": "qrc:/qml/images/product-kelm.svg",
+            "Quivera Hub": "qrc:/qml/images/product-hub.svg",
+            "Ruvello": "qrc:/qml/images/product-ruvello.svg"
+        })
+
+    function productImage(productName) {
+        return productImages[productName] || "qrc:/qml/images/product-kelm.svg";
+    }
+}

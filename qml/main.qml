@@ -1,0 +1,28 @@
+import QtQuick 2.15
+import QtQuick.Controls.Material 2.15
+import QtQuick.Window 2.15
+import "."
+
+Window {
+    id: root
+
+    readonly property bool onWindows: Qt.platform.os === "windows"
+
+    width: onWindows ? Style.windowWidth : Screen.desktopAvailableWidth
+    height: onWindows ? Style.windowHeight : Screen.desktopAvailableHeight
+    visible: true
+    title: qsTr("Orvex Quivera")
+    color: Style.background
+
+    Material.theme: Material.Dark
+    Material.accent: Style.accent
+    Material.primary: Style.primary
+
+    WindowMain {
+        anchors.fill: parent
+    }
+
+    WindowSplash {
+        anchors.fill: parent
+    }
+}

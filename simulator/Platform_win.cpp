@@ -1,0 +1,59 @@
+#include "Platform.h"
+
+#include <iphlpapi.h>
+#include <winsock2.h>
+#include <ws2tcpip.h>
+
+#include <cstddef>
+
+namespace Simulator::Platform {
+
+const bool listenersReuseAddress = false;
+
+namespace {
+
+std::string utf8(const wchar_t* text) {
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    if (size <= 1)
+        return {};
+    std::string converted(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text, -1, converted.data(), size, nullptr, nullptr);
+    converted.pop_back();
+    return converted;
+}
+
+std::uint32_t netmaskOf(unsigned int prefixLength) {
+    return prefixLength == 0 ? 0 : 0xFFFFFFFFU << (32 - prefixLength);
+}
+
+} // namespace
+
+std::vector<Interface> interfaces() {
+    constexpr ULONG flags = GAA_FLAG_SKIP_ANYCAST | GAA_FLAG_SKIP_MULTICAST | GAA_FLAG_SKIP_DNS_SERVER;
+    ULONG size = 16 * 1024;
+    std::vector<std::byte> memory(size);
+    const auto adapters = [&memory] { return reinterpret_cast<IP_ADAPTER_ADDRESSES*>(memory.data()); };
+    ULONG result = GetAdaptersAddresses(AF_INET, flags, nullptr, adapters(), &size);
+    if (result == ERROR_BUFFER_OVERFLOW) {
+        memory.resize(size);
+        result = GetAdaptersAddresses(AF_INET, flags, nullptr, adapters(), &size);
+    }
+    std::vector<Interface> found;
+    if (result != NO_ERROR)
+        return found;
+    for (const auto* adapter = adapters(); adapter; adapter = adapter->Next) {
+        if (adapter->OperStatus != IfOperStatusUp)
+            continue;
+        for (const auto* entry = adapter->FirstUnicastAddress; entry; entry = entry->Next) {
+            const auto* const address = reinterpret_cast<const sockaddr_in*>(entry->Address.lpSockaddr);
+            found.push_back({utf8(adapter->FriendlyName), ntohl(address->sin_addr.s_addr),
+                             netmaskOf(entry->OnLinkPrefixLength)});
+        }
+    }
+    return found;
+}
+
+// Windows sets no such limit.
+void raiseSocketLimit() {}
+
+} // namespace Simulator::Platform

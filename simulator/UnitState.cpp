@@ -1,0 +1,69 @@
+#include "UnitState.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstdio>
+
+namespace Simulator {
+
+namespace {
+
+/// A locally administered hardware address that stays the same for a serial number.
+std::string hardwareAddress(const std::string& serial, unsigned int interface) {
+    std::uint32_t hash = 2166136261U; // FNV-1a
+    for (const char character : serial)
+        hash = (hash ^ static_cast<unsigned char>(character)) * 16777619U;
+    std::array<char, 18> text{};
+    std::snprintf(text.data(), text.size(), "02:4b:%02x:%02x:%02x:%02x", (hash >> 16U) & 0xFFU,
+                  (hash >> 8U) & 0xFFU, hash & 0xFFU, interface);
+    return text.data();
+}
+
+NetworkState joinedNetwork(const UnitOptions& options) {
+    NetworkState network;
+    network.ssid = "Living Room";
+    network.interfaces = {
+        {"Access Point", hardwareAddress(options.serial, 0), "", "", ""},
+        {"Ethernet", hardwareAddress(options.serial, 1), "", "", ""},
+        {"Wi-Fi", hardwareAddress(options.serial, 2), options.address, "255.0.0.0", "127.255.255.255"},
+    };
+    return network;
+}
+
+NetworkState ownAccessPoint(const UnitOptions& options) {
+    NetworkState network;
+    network.online = false;
+    network.wifiOnline = false;
+    network.hotspotActive = true;
+    network.interfaces = {
+        {"Access Point", hardwareAddress(options.serial, 0), options.address, "255.0.0.0", "127.255.255.255"},
+        {"Ethernet", hardwareAddress(options.serial, 1), "", "", ""},
+        {"Wi-Fi", hardwareAddress(options.serial, 2), "", "", ""},
+    };
+    return network;
+}
+
+} // namespace
+
+UnitState initialState(const UnitOptions& options) {
+    UnitState state;
+    state.name = options.name;
+    state.network = options.accessPoint ? ownAccessPoint(options) : joinedNetwork(options);
+    state.media.count = options.media;
+    return state;
+}
+
+std::string complaintAboutName(const std::string& name) {
+    if (name.size() > maximumNameSize)
+        return "a name has at most " + std::to_string(maximumNameSize) + " bytes";
+    if (std::all_of(name.begin(), name.end(), [](char character) { return character == ' '; }))
+        return "a name must not be empty";
+    const bool printable = std::none_of(name.begin(), name.end(), [](char character) {
+        const auto code = static_cast<unsigned char>(character);
+        return code < 0x20 || code == 0x7F;
+    });
+    return printable ? "" : "a name has no control characters";
+}
+
+} // namespace Simulator

@@ -1,0 +1,50 @@
+#include "simulator/messages/Body.h"
+#include "simulator/messages/Messages.h"
+
+#include <array>
+
+namespace Simulator {
+
+namespace {
+
+struct Message {
+    std::string_view type;
+    Answer (*answer)(UnitState&, const Request&);
+};
+
+constexpr std::array catalogue{
+    Message{"GetKelmName", getKelmName},
+    Message{"SetKelmName", setKelmName},
+    Message{"GetNetworkState", getNetworkState},
+    Message{"GetUpgrade", getUpgrade},
+    Message{"GetUpdate", getUpdate},
+    Message{"GetContentUpdateState", getContentUpdateState},
+    Message{"RequestContentUpdate", requestContentUpdate},
+    Message{"GetMediaListNotification", getMediaList},
+};
+
+const Message* find(std::string_view type) {
+    for (const Message& message : catalogue)
+        if (message.type == type)
+            return &message;
+    return nullptr;
+}
+
+} // namespace
+
+Answer answerTo(UnitState& state, std::string_view type, std::string_view body) {
+    const Message* const message = find(type);
+    if (!message)
+        return refusal(Status::NotSupported, "no such message");
+    rapidjson::Document document;
+    document.SetObject();
+    // Iterative: a body full of brackets must not eat the stack.
+    if (!body.empty())
+        document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag>(body.data(),
+                                                                                               body.size());
+    if (document.HasParseError() || !document.IsObject())
+        return refusal(Status::Malformed, "the body is not one JSON object");
+    return message->answer(state, Request{type, document});
+}
+
+} // namespace Simulator
