@@ -110,9 +110,12 @@ void Communicator::finishPreviousRequest(const DeviceInfo& next) {
     }
     if (m_connected) {
         if (m_dropping || !m_unit || !m_unit->isSameUnit(next)) {
-            // The old unit is forgotten first: it is we who leave it, so it is not offline.
-            m_unit.reset();
-            m_expectedFields = 0;
+            // The old unit is forgotten first: it is we who leave it, so it is not offline. One whose time
+            // was up is, however soon the next request follows.
+            if (!m_dropping) {
+                m_unit.reset();
+                m_expectedFields = 0;
+            }
             lock.unlock();
             dropConnection();
         }
@@ -125,8 +128,16 @@ void Communicator::finishPreviousRequest(const DeviceInfo& next) {
     }
 }
 
+/// Without waiting for the report of the loss. Nothing once the messenger is gone: no request outlives its
+/// time for that.
+void Communicator::dropQuietly() {
+    if (m_messenger) {
+        m_messenger->disconnect();
+    }
+}
+
 void Communicator::dropConnection() {
-    m_messenger->disconnect();
+    dropQuietly();
     const auto patience = std::chrono::steady_clock::now() + disconnectionPatience;
     for (;;) {
         {
@@ -148,8 +159,8 @@ void Communicator::dropConnection() {
 void Communicator::handleConnected() {
     {
         const std::unique_lock lock(m_mutex);
-        if (!m_active) {
-            return;
+        if (!m_active || !m_unit) {
+            return; // also for a request whose unit was forgotten while it waited: its timer ends it
         }
         m_connected = true;
         m_dropping = false;
@@ -314,7 +325,7 @@ void Communicator::disconnect() {
             const std::unique_lock lock(m_mutex);
             m_dropping = true;
         }
-        m_messenger->disconnect();
+        dropQuietly();
     }
     std::shared_ptr<DeviceInfo> unit;
     {
@@ -333,8 +344,8 @@ void Communicator::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_timerId) {
         killTimer(event->timerId());
     }
-    if (!m_active) {
-        return;
+    if (!m_active || m_end) {
+        return; // answered in time, the end is only on its way
     }
     const Serial serial = m_serial;
     const auto unit = m_unit;
@@ -348,7 +359,7 @@ void Communicator::timerEvent(QTimerEvent* event) {
         programLog()->warn("Communicator: timeout. Missing fields {}", missing.to_string());
     }
     // Dropped before the end is told, lest this cuts the connection of a request started in answer to it.
-    m_messenger->disconnect();
+    dropQuietly();
     endRequest(serial, false);
 }
 

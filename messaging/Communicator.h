@@ -110,6 +110,7 @@ private:
     using Serial = std::uint64_t;
 
     void finishPreviousRequest(const DeviceInfo& next);
+    void dropQuietly();
     void dropConnection();
     void runConnectedProcedure();
     void endRequest(Serial serial, bool success);

@@ -20,6 +20,9 @@ constexpr Body::Member<AdaptiveGamingSelectedProfile> profileMembers[] = {
 } // namespace
 
 void GetAdaptiveGamingSelectedProfileHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != "GetAdaptiveGamingSelectedProfile") {
+        return;
+    }
     QSharedPointer<AdaptiveGamingSelectedProfile> profile;
     const auto body = BodyJSONParser::parse(response);
     if (!body->ObjectEmpty()) {

@@ -38,6 +38,9 @@ void GetContentUpdateStateHandler::sendRequest(Messenger& messenger) const {
 }
 
 void GetContentUpdateStateHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != messageType) {
+        return;
+    }
     QSharedPointer<ContentUpdateState> state;
     const auto body = BodyJSONParser::parse(response);
     if (!body->ObjectEmpty()) {

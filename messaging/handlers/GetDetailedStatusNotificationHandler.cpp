@@ -65,6 +65,9 @@ void GetDetailedStatusNotificationHandler::registerWith(Messenger& messenger) {
 void GetDetailedStatusNotificationHandler::sendRequest(Messenger& messenger) const { messenger.send(m_request); }
 
 void GetDetailedStatusNotificationHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != messageType) {
+        return;
+    }
     QSharedPointer<DetailedStatusInfo> info;
     const auto body = BodyJSONParser::parse(response);
     if (!body->ObjectEmpty()) {

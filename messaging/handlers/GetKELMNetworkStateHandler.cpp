@@ -46,6 +46,9 @@ constexpr Body::Member<NetworkStatus> statusMembers[] = {
 } // namespace
 
 void GetKELMNetworkStateHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != "GetNetworkState") {
+        return;
+    }
     QSharedPointer<NetworkStatus> status;
     const auto body = BodyJSONParser::parse(response);
     if (!body->ObjectEmpty()) {

@@ -52,6 +52,9 @@ void GetMediaListNotificationHandler::registerWith(Messenger& messenger) {
 void GetMediaListNotificationHandler::sendRequest(Messenger& messenger) const { messenger.send(m_request); }
 
 void GetMediaListNotificationHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != messageType) {
+        return;
+    }
     QSharedPointer<MediaList> list;
     const auto body = BodyJSONParser::parse(response);
     const auto* value = Body::firstMember(*body, "mediaList");

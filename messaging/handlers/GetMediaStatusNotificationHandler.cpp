@@ -102,6 +102,9 @@ constexpr Body::Member<MediaStatus> statusMembers[] = {
 } // namespace
 
 void GetMediaStatusNotificationHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != "GetMediaStatus") {
+        return;
+    }
     MediaStatus status;
     const auto body = BodyJSONParser::parse(response);
     for (const auto& member : body->GetObject()) {

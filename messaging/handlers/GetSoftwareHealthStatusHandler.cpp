@@ -43,6 +43,9 @@ constexpr Body::Member<SoftwareHealthStatus> statusMembers[] = {
 } // namespace
 
 void GetSoftwareHealthStatusHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != "GetSoftwareHealthStatus") {
+        return;
+    }
     QSharedPointer<SoftwareHealthStatus> status;
     const auto body = BodyJSONParser::parse(response);
     if (!body->ObjectEmpty()) {

@@ -22,6 +22,9 @@ constexpr Body::Member<WiFiListEntry> networkMembers[] = {
 } // namespace
 
 void GetWifiListHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != "GetWifiList") {
+        return;
+    }
     QStringList names;
     QVariantMap states;
     const auto body = BodyJSONParser::parse(response);

@@ -21,6 +21,9 @@ bool readResult(const Body::Value& setting) {
 } // namespace
 
 void WifiSettingHandler::handleResponse(std::shared_ptr<const IResponse> response) {
+    if (response->getMessageType() != "SetWifiSetting") {
+        return;
+    }
     const auto body = BodyJSONParser::parse(response);
     const auto* setting = Body::firstMember(*body, "setWifi");
     const bool result = setting && setting->IsObject() && readResult(*setting);

@@ -1,0 +1,435 @@
+#include "tests/messaging/CommunicatorFixture.h"
+
+#include <QTimerEvent>
+
+namespace orvex::Test {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::uint32_t listed = DeviceField::mask(
+    {DeviceField::Name, DeviceField::LibraryUpdateTime, DeviceField::ContentUpdate, DeviceField::Network});
+
+class CommunicatorTest : public CommunicatorFixture {
+protected:
+    /// The connection that the second request of a test reuses.
+    void connectToUnit() {
+        ASSERT_TRUE(request(device, mask({DeviceField::Name})));
+        ended.clear();
+    }
+
+    RunningUnit unit{host};
+    std::shared_ptr<DeviceInfo> device = unit.device();
+};
+
+TEST_F(CommunicatorTest, AnswersFillTheUnitAndEndTheRequest) {
+    unit.changeState([](Simulator::UnitState& state) { state.name = "Armchair"; });
+    EXPECT_TRUE(request(device, listed | mask({DeviceField::MediaList, DeviceField::SoftwareVersion,
+                                               DeviceField::Online, DeviceField::Contacted})));
+    EXPECT_EQ(device->name(), QLatin1String("Armchair"));
+    EXPECT_EQ(device->libraryUpdateTime(), QDateTime(QDate(2025, 11, 3), QTime(8, 15), Qt::UTC));
+    ASSERT_TRUE(device->networkStatus());
+    EXPECT_EQ(device->networkStatus()->ssid, QLatin1String("Living Room"));
+    EXPECT_EQ(device->networkStatus()->interfaces.size(), 3);
+    EXPECT_EQ(device->contentUpdateState().stateId, 10);
+    EXPECT_EQ(device->softwareVersion(), QLatin1String("4.2.1"));
+    ASSERT_TRUE(device->mediaList());
+    EXPECT_EQ(device->mediaList()->media.size(), 24);
+    EXPECT_TRUE(device->isOnline());
+    EXPECT_TRUE(device->isContacted());
+    EXPECT_TRUE(device->changedFields().test(DeviceField::Contacted));
+    EXPECT_TRUE(communicator->isIdle());
+
+    EXPECT_TRUE(request(device, listed));
+    EXPECT_TRUE(device->changedFields().none()) << "the same answers change nothing";
+    EXPECT_EQ(unit.counters().connections, 1U) << "the connection is used again";
+}
+
+TEST_F(CommunicatorTest, ARequestForNothingSucceedsOnceItIsSent) {
+    EXPECT_TRUE(request(device, 0, 20000, std::make_shared<SetNameRequest>("Bench")));
+    EXPECT_TRUE(eventually([&] { return unit.state().name == "Bench"; }));
+    communicator->startRequest(device, 0);
+    EXPECT_EQ(results(), QLatin1String("11")) << "inside the call, as the unit is connected";
+    EXPECT_TRUE(request(device, mask({DeviceField::Online, DeviceField::Contacted})));
+}
+
+TEST_F(CommunicatorTest, TheAcknowledgementOfANameIsNoName) {
+    unit.fail(AnswerFault::Drop, {"GetKelmName"});
+    device->setName(QStringLiteral("Typed"));
+    communicator->startRequest(device, listed, std::make_shared<SetNameRequest>("Typed"), 20000);
+    const std::uint32_t others = listed & ~mask({DeviceField::Name});
+    ASSERT_TRUE(eventually([&] { return (device->answeredFields().to_ulong() & others) == others; }));
+    EXPECT_FALSE(device->answeredFields().test(DeviceField::Name));
+    EXPECT_EQ(device->name(), QLatin1String("Typed"));
+    unit.push("GetKelmName", R"({"kelmName":"Heard"})");
+    EXPECT_TRUE(eventually([&] { return results() == QLatin1String("1"); }))
+        << "a notification answers as well";
+    EXPECT_EQ(device->name(), QLatin1String("Heard"));
+}
+
+TEST_F(CommunicatorTest, TheEndOfARequestStopsItsTimer) {
+    EXPECT_TRUE(request(device, listed, 1000));
+    unit.fail(AnswerFault::Drop);
+    QElapsedTimer taken;
+    taken.start();
+    EXPECT_FALSE(request(device, listed, 1500));
+    EXPECT_GE(taken.elapsed(), 1490);
+}
+
+TEST_F(CommunicatorTest, TimeOutsHaveALowerBoundAndADefault) {
+    struct Attempt : Velto::Messaging::IMessengerObserver {
+        void handleConnected() override {}
+        void handleConnectionLost() override {}
+        void handleNotice() override { gaveUpAfter = taken.elapsed(); }
+        QElapsedTimer taken;
+        std::atomic<qint64> gaveUpAfter{-1};
+    };
+    struct Line {
+        std::uint32_t timeout;
+        qint64 effective;
+        std::shared_ptr<Velto::Messaging::Messenger> messenger = makeMessenger();
+        std::shared_ptr<Communicator> communicator = std::make_shared<Communicator>();
+        std::shared_ptr<Attempt> attempt = std::make_shared<Attempt>();
+        qint64 endedAfter = -1;
+    };
+    Faults faults;
+    faults.connection = ConnectionFault::HangAfterAccept;
+    unit.setFaults(faults);
+
+    Line lines[] = {{1, 500}, {500, 500}, {700, 700}, {0, 3000}};
+    for (Line& line : lines) {
+        line.messenger->connect(60000);
+        line.messenger->AddObserver(line.attempt);
+        line.communicator->setMessenger(line.messenger);
+        QObject::connect(line.communicator.get(), &Communicator::requestComplete, line.communicator.get(),
+                         [&line](bool success) {
+                             EXPECT_FALSE(success);
+                             EXPECT_EQ(line.endedAfter, -1) << "a second end";
+                             line.endedAfter = line.attempt->taken.elapsed();
+                         });
+        line.attempt->taken.start();
+        line.communicator->startRequest(device, listed, nullptr, line.timeout);
+    }
+    EXPECT_TRUE(eventually([&] {
+        return std::all_of(std::begin(lines), std::end(lines),
+                           [](const Line& l) { return l.endedAfter >= 0; });
+    }));
+    for (Line& line : lines) {
+        EXPECT_GE(line.endedAfter, line.effective - 5) << line.timeout;
+        EXPECT_GE(line.attempt->gaveUpAfter, line.effective / 2 - 5) << line.timeout;
+        line.communicator->releaseMessenger();
+    }
+    EXPECT_LT(lines[0].endedAfter, lines[3].endedAfter);
+    EXPECT_LT(lines[3].attempt->gaveUpAfter, 3000) << "the attempt has half of the time";
+}
+
+TEST_F(CommunicatorTest, ATimeOutNamesWhatIsMissingAndDropsTheConnection) {
+    unit.fail(AnswerFault::Drop, {"GetUpdate", "GetContentUpdateState"});
+    EXPECT_FALSE(request(device, listed, 600));
+    EXPECT_EQ(log.lines("timeout"), std::vector<std::string>({"warning Communicator: timeout. Missing fields "
+                                                              "0000000000000000000001100000"}));
+    EXPECT_TRUE(eventually([&] { return unit.clients() == 0 && !device->isOnline(); }));
+    EXPECT_FALSE(device->isFieldValid(DeviceField::Network));
+    unit.setFaults({});
+    EXPECT_TRUE(request(device, listed));
+    EXPECT_EQ(unit.counters().connections, 2U);
+}
+
+TEST_F(CommunicatorTest, ARequestMayBeStartedInAnswerToATimeOut) {
+    connectToUnit();
+    unit.fail(AnswerFault::Drop);
+    QObject::connect(communicator.get(), &Communicator::requestComplete, communicator.get(),
+                     [&](bool success) {
+                         if (!success) {
+                             unit.setFaults({});
+                             communicator->startRequest(device, listed, nullptr, 20000);
+                         }
+                     });
+    communicator->startRequest(device, listed, nullptr, 500);
+    EXPECT_TRUE(eventually([&] { return ended.size() == 2; }));
+    EXPECT_EQ(results(), QLatin1String("01"));
+    EXPECT_TRUE(device->isOnline());
+    EXPECT_TRUE(device->changedFields().test(DeviceField::Online)) << "a time-out marks the unit offline";
+}
+
+TEST_F(CommunicatorTest, ADeadUnitFailsItsRequestAndKeepsItsFailures) {
+    unit.stop();
+    device->incrementFailureCount();
+    EXPECT_FALSE(request(device, listed, 500));
+    device->incrementFailureCount();
+    EXPECT_FALSE(request(device, listed, 500));
+    EXPECT_EQ(device->failureCount(), 2) << "starting a request is no answer";
+    unit.start();
+    EXPECT_TRUE(request(device, listed));
+    EXPECT_EQ(device->failureCount(), 0);
+}
+
+TEST_F(CommunicatorTest, ANewRequestEndsAnOlderOneThatIsConnected) {
+    connectToUnit();
+    unit.fail(AnswerFault::Drop);
+    communicator->startRequest(device, listed, nullptr, 20000);
+    ASSERT_TRUE(eventually([&] { return unit.counters().requestsOf("GetContentUpdateState") == 1; }));
+    unit.setFaults({});
+    communicator->startRequest(device, mask({DeviceField::Network}), nullptr, 20000);
+    EXPECT_EQ(results(), QLatin1String("0"));
+    const auto lines = log.lines("new request to");
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_EQ(lines[0], "warning Communicator: new request to Sofa " + unit.options().address +
+                            " while previous is active, canceling previous");
+    EXPECT_TRUE(eventually([&] { return ended.size() == 2; }));
+    EXPECT_EQ(results(), QLatin1String("01"));
+    EXPECT_EQ(unit.counters().connections, 1U);
+}
+
+TEST_F(CommunicatorTest, ANewRequestReplacesAnOlderOneThatWaitsForItsConnection) {
+    Faults faults;
+    faults.connection = ConnectionFault::HangInTls;
+    unit.setFaults(faults);
+    const RunningUnit other(host, "Other");
+    const auto otherDevice = other.device();
+    communicator->startRequest(device, 0, std::make_shared<SetNameRequest>("Lost"), 20000);
+    communicator->startRequest(otherDevice, listed, nullptr, 20000);
+    EXPECT_TRUE(eventually([&] { return !ended.isEmpty(); }));
+    EXPECT_EQ(results(), QLatin1String("1"));
+    EXPECT_EQ(otherDevice->name(), QLatin1String("Other"));
+    EXPECT_EQ(other.state().name, "Other");
+    EXPECT_EQ(other.counters().requestsOf("SetKelmName"), 0U);
+    EXPECT_TRUE(device->isOnline()) << "nobody has lost it";
+    EXPECT_EQ(log.count("canceling"), 0U);
+}
+
+TEST_F(CommunicatorTest, AnEndOnItsWayIsNotTheNextRequestsEnd) {
+    connectToUnit();
+    communicator->startRequest(device, listed, nullptr, 20000);
+    ASSERT_TRUE(
+        eventuallyElsewhere([&] { return (device->answeredFields().to_ulong() & listed) == listed; }));
+    ASSERT_EQ(ended.size(), 0) << "this thread has not heard of it yet";
+    unit.fail(AnswerFault::Drop);
+    communicator->startRequest(device, listed, nullptr, 600);
+    EXPECT_LE(ended.size(), 1);
+    EXPECT_TRUE(eventually([&] { return communicator->isIdle(); }));
+    EXPECT_EQ(ended.size(), 2);
+    EXPECT_FALSE(ended.last().first().toBool()) << "the second request was never answered";
+}
+
+TEST_F(CommunicatorTest, ATimeOutBehindTheLastAnswerIsNone) {
+    connectToUnit();
+    QSignalSpy internal(communicator.get(), &Communicator::requestCompleteInternal);
+    communicator->startRequest(device, listed, nullptr, 20000);
+    ASSERT_TRUE(eventuallyElsewhere([&] { return !internal.isEmpty(); }));
+    QTimerEvent late(communicator->startTimer(patience));
+    QCoreApplication::sendEvent(communicator.get(), &late);
+    EXPECT_TRUE(eventually([&] { return !ended.isEmpty(); }));
+    EXPECT_EQ(results(), QLatin1String("1"));
+    EXPECT_TRUE(request(device, listed));
+    EXPECT_EQ(unit.counters().connections, 1U) << "nothing was dropped";
+    EXPECT_EQ(log.count("timeout"), 0U);
+}
+
+TEST_F(CommunicatorTest, CancellingEndsTheRequestInsideTheCall) {
+    communicator->cancelRequest();
+    EXPECT_EQ(results(), QString()) << "there is nothing to cancel";
+    communicator->startRequest(device, listed, nullptr, 20000);
+    communicator->cancelRequest();
+    EXPECT_EQ(results(), QLatin1String("0"));
+    EXPECT_TRUE(request(device, listed)) << "also while it waits for its connection";
+
+    unit.fail(AnswerFault::Drop);
+    communicator->startRequest(device, listed, nullptr, 20000);
+    communicator->cancelRequest();
+    communicator->cancelRequest();
+    EXPECT_EQ(results(), QLatin1String("010"));
+    EXPECT_TRUE(device->isOnline());
+    EXPECT_EQ(log.count("warning Communicator: canceling request"), 2U);
+    unit.setFaults({});
+    EXPECT_TRUE(request(device, listed));
+    EXPECT_EQ(unit.counters().connections, 1U);
+}
+
+TEST_F(CommunicatorTest, ALossDuringARequestEndsItAndMarksTheUnitOffline) {
+    connectToUnit();
+    for (const AnswerFault fault : {AnswerFault::Close, AnswerFault::Reset, AnswerFault::OversizeHeader}) {
+        unit.fail(fault, {"GetUpdate"});
+        EXPECT_FALSE(request(device, listed));
+        EXPECT_FALSE(device->isOnline());
+        EXPECT_TRUE(device->changedFields().all());
+        unit.setFaults({});
+        EXPECT_TRUE(request(device, listed));
+        EXPECT_TRUE(device->isOnline());
+    }
+    EXPECT_EQ(log.count("timeout"), 0U);
+}
+
+TEST_F(CommunicatorTest, ALossBetweenRequestsMarksTheUnitOfflineAndEndsNothing) {
+    connectToUnit();
+    unit.closeConnections();
+    EXPECT_TRUE(eventually([&] { return !device->isOnline(); }));
+    EXPECT_TRUE(request(device, listed));
+    EXPECT_EQ(results(), QLatin1String("1"));
+}
+
+TEST_F(CommunicatorTest, AnUnreadableAnswerIsAsGoodAsNone) {
+    connectToUnit();
+    for (const AnswerFault fault : {AnswerFault::Garble, AnswerFault::StallMidFrame}) {
+        unit.fail(fault, {"GetNetworkState"});
+        EXPECT_FALSE(request(device, listed, 500));
+        unit.setFaults({});
+        EXPECT_TRUE(request(device, listed));
+    }
+    unit.fail(AnswerFault::TruncateBody, {"GetNetworkState"});
+    EXPECT_TRUE(request(device, listed)) << "an answer that says nothing is an answer";
+    EXPECT_FALSE(device->networkStatus());
+}
+
+TEST_F(CommunicatorTest, ChangingUnitsLeavesTheOldOneAsItWas) {
+    EXPECT_TRUE(request(device, listed));
+    const auto valid = device->validFields();
+    const RunningUnit other(host, "Other");
+    const auto otherDevice = other.device();
+    unit.fail(AnswerFault::Drop);
+    communicator->startRequest(device, mask({DeviceField::Name}), nullptr, 20000);
+    communicator->startRequest(otherDevice, listed, nullptr, 20000);
+    EXPECT_EQ(results(), QLatin1String("10"));
+    EXPECT_TRUE(eventually([&] { return ended.size() == 3; }));
+    EXPECT_EQ(results(), QLatin1String("101"));
+    EXPECT_TRUE(device->isOnline());
+    EXPECT_EQ(device->validFields(), valid);
+    EXPECT_TRUE(eventually([&] { return unit.clients() == 0; }));
+    EXPECT_TRUE(device->isOnline());
+}
+
+TEST_F(CommunicatorTest, WhatOneUnitHeardSaysNothingAboutAnother) {
+    const auto audio = mask({DeviceField::AudioSourceStatus});
+    const auto typeAfter = [&](RunningUnit& of, const std::shared_ptr<DeviceInfo>& info,
+                               const std::string& state) {
+        of.fail(AnswerFault::Drop, {"GetMediaStatus"});
+        const int before = ended.size();
+        communicator->startRequest(info, audio, nullptr, 20000);
+        const std::string body = R"({"s":{"mediaIdState":")" + state + "\"}}";
+        EXPECT_TRUE(eventually([&] { return of.clients() == 1; }));
+        EXPECT_TRUE(eventually([&] {
+            of.push("GetMediaStatus", body);
+            return ended.size() > before;
+        }));
+        return info->audioSourceStatus().type;
+    };
+    EXPECT_EQ(typeAfter(unit, device, "ident_success"), 3);
+    EXPECT_EQ(typeAfter(unit, device, "starting"), 3);
+    RunningUnit other(host, "Other");
+    EXPECT_EQ(typeAfter(other, other.device(), "starting"), 2);
+}
+
+TEST_F(CommunicatorTest, DisconnectingEndsTheRequestAndForgetsTheUnit) {
+    connectToUnit();
+    unit.fail(AnswerFault::Drop);
+    communicator->startRequest(device, listed, nullptr, 20000);
+    communicator->disconnect();
+    EXPECT_EQ(results(), QLatin1String("0"));
+    EXPECT_EQ(log.count("warning Communicator: disconnect() called during request, canceling request"), 1U);
+    EXPECT_FALSE(device->isOnline());
+    EXPECT_TRUE(eventually([&] { return unit.clients() == 0; }));
+    unit.setFaults({});
+    EXPECT_TRUE(request(device, listed));
+    communicator->disconnect();
+    EXPECT_TRUE(request(device, listed)) << "right behind a disconnection";
+}
+
+TEST_F(CommunicatorTest, DisconnectingWhileTheConnectionIsAwaitedDoesNoHarm) {
+    communicator->startRequest(device, listed, nullptr, 1000);
+    communicator->disconnect();
+    EXPECT_TRUE(eventually([&] { return communicator->isIdle(); }));
+    EXPECT_EQ(results(), QLatin1String("0"));
+    EXPECT_TRUE(request(device, listed));
+}
+
+TEST_F(CommunicatorTest, AnUnknownKeyIsLoggedAndChangesNothing) {
+    communicator->genericResponseHandler(QStringLiteral("nonsense"), 1);
+    EXPECT_EQ(log.count("Communicator::genericResponseHandler unexpected notification"), 1U);
+}
+
+TEST_F(CommunicatorTest, LetsGoOfTheMessengerWhileItIsTalkedTo) {
+    unit.fail(AnswerFault::Drop);
+    std::atomic<bool> talking{true};
+    std::thread talker([&] {
+        while (talking) {
+            unit.push("GetKelmName", R"({"kelmName":"Chatter"})");
+            unit.push("GetNetworkState", R"({"online":true})");
+        }
+    });
+    for (int round = 0; round < 10; ++round) {
+        auto line = makeMessenger();
+        auto released = std::make_shared<Communicator>();
+        QSignalSpy releasedEnded(released.get(), &Communicator::requestComplete);
+        released->setMessenger(line);
+        line->connect(3000);
+        released->startRequest(device, listed, nullptr, 500);
+        EXPECT_TRUE(eventually([&] { return device->answeredFields().test(DeviceField::Network); }));
+        line.reset();
+        released->releaseMessenger();
+        released->startRequest(device, listed);
+        released->disconnect();
+        if (round == 0) {
+            EXPECT_TRUE(eventually([&] { return released->isIdle(); })) << "its time-out still ends it";
+            EXPECT_LE(releasedEnded.size(), 1);
+        }
+    }
+    talking = false;
+    talker.join();
+}
+
+TEST_F(CommunicatorTest, TwoUnitsInTurnNeverMixWhateverGoesWrong) {
+    UnitOptions accessPoint;
+    accessPoint.accessPoint = true;
+    accessPoint.media = 3;
+    RunningUnit other(host, "Other", accessPoint);
+    struct Side {
+        RunningUnit& unit;
+        std::shared_ptr<DeviceInfo> device;
+        QString name;
+        bool accessPoint;
+        int media;
+    };
+    Side sides[] = {{unit, device, "Sofa", false, 24}, {other, other.device(), "Other", true, 3}};
+    const AnswerFault faults[] = {AnswerFault::None,  AnswerFault::Close, AnswerFault::None,
+                                  AnswerFault::Reset, AnswerFault::None,  AnswerFault::None,
+                                  AnswerFault::None};
+    const auto fields = listed | mask({DeviceField::MediaList});
+    int expected = 0;
+    int succeeded = 0;
+    for (int round = 0; round < 200; ++round) {
+        Side& side = sides[round % 2];
+        Faults wrong;
+        wrong.answer = round % 50 == 49 ? AnswerFault::Drop : faults[round % 7];
+        wrong.types = {"GetUpdate"};
+        wrong.delay = std::chrono::milliseconds(round % 3);
+        side.unit.setFaults(wrong);
+        communicator->startRequest(side.device, fields, nullptr,
+                                   wrong.answer == AnswerFault::Drop ? 500 : 20000);
+        ++expected;
+        if (round % 5 == 4) {
+            // Anywhere on the way: what has not come yet comes too late.
+            const auto seen = side.unit.counters().requestsOf("GetKelmName");
+            eventually([&] {
+                return ended.size() == expected || side.unit.counters().requestsOf("GetKelmName") > seen;
+            });
+            communicator->cancelRequest();
+        }
+        ASSERT_TRUE(eventually([&] { return ended.size() >= expected; })) << round;
+        ASSERT_EQ(ended.size(), expected) << round;
+        ASSERT_TRUE(communicator->isIdle()) << round;
+        succeeded += ended.last().first().toBool() ? 1 : 0;
+        for (const Side& each : sides) {
+            EXPECT_EQ(each.device->name(), each.name) << round;
+            if (const auto network = each.device->networkStatus()) {
+                EXPECT_EQ(network->hotspotActive, each.accessPoint) << round;
+            }
+            if (const auto media = each.device->mediaList()) {
+                EXPECT_EQ(media->media.size(), each.media) << round;
+            }
+        }
+    }
+    EXPECT_GT(succeeded, 80);
+}
+
+} // namespace
+} // namespace orvex::Test
