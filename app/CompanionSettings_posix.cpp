@@ -19,7 +19,7 @@ QStringList configFolders() {
 QString settingsFile() {
     for (const QString& folder : configFolders()) {
         // A relative folder in this variable counts as not set, by the convention that defines it.
-        const QString file = folder + QStringLiteral("/Orvex.conf");
+        QString file = folder + QStringLiteral("/Orvex.conf");
         if (QDir::isAbsolutePath(folder) && QFileInfo(file).isFile()) {
             return file;
         }

@@ -81,6 +81,10 @@ void publish(QQmlContext& context, Facade& facade) {
     context.setContextProperty(QStringLiteral("api"), &facade);
     context.setContextProperty(QStringLiteral("deviceManager"), facade.deviceManager());
     context.setContextProperty(QStringLiteral("deviceListModel"), facade.deviceListModel());
+    context.setContextProperty(QStringLiteral("currDevice"), facade.deviceProxy());
+    context.setContextProperty(QStringLiteral("seatListModel"), facade.seatListModel());
+    context.setContextProperty(QStringLiteral("mediaListModel"), facade.mediaListModel());
+    context.setContextProperty(QStringLiteral("detailedStatusModel"), facade.detailedStatusModel());
 }
 
 /// From the Qt application object to its end. The objects on the stack go in the opposite order.

@@ -9,12 +9,15 @@ target_include_directories(quivera_rapidjson SYSTEM INTERFACE ${RAPIDJSON_INCLUD
 # Lengths as size_t: a body may hold a string longer than 32 bits' worth on no platform, but the type should say so.
 target_compile_definitions(quivera_rapidjson INTERFACE RAPIDJSON_HAS_STDSTRING=1)
 
-if(CMAKE_CROSSCOMPILING AND WIN32)
+# The thread sanitizer must see the logging library's own synchronisation, so it is compiled along there.
+if((CMAKE_CROSSCOMPILING AND WIN32) OR QUIVERA_SANITIZE MATCHES "thread")
   find_path(SPDLOG_INCLUDE_DIR spdlog/spdlog.h REQUIRED)
   add_library(quivera_spdlog INTERFACE)
   target_include_directories(quivera_spdlog SYSTEM INTERFACE ${SPDLOG_INCLUDE_DIR})
-  # Wide file names: a person's name in the path of the log need not be in the system's code page.
-  target_compile_definitions(quivera_spdlog INTERFACE FMT_HEADER_ONLY SPDLOG_FMT_EXTERNAL SPDLOG_WCHAR_FILENAMES)
+  # Wide file names on Windows: a person's name in the log's path need not be in the system's code page.
+  target_compile_definitions(quivera_spdlog INTERFACE FMT_HEADER_ONLY SPDLOG_FMT_EXTERNAL
+    $<$<PLATFORM_ID:Windows>:SPDLOG_WCHAR_FILENAMES>)
+  target_link_libraries(quivera_spdlog INTERFACE Threads::Threads)
   add_library(spdlog::spdlog ALIAS quivera_spdlog)
 else()
   find_package(spdlog REQUIRED)
@@ -27,7 +30,9 @@ target_link_libraries(quivera_asio PRIVATE quivera_flags
 target_compile_definitions(quivera_asio PUBLIC BOOST_ASIO_NO_DEPRECATED BOOST_ASIO_SEPARATE_COMPILATION
   BOOST_BEAST_USE_STD_STRING_VIEW)
 if(WIN32)
-  target_compile_options(quivera_asio PUBLIC -Wa,-mbig-obj)
+  # Unoptimised, Beast's templates exceed even the large object format.
+  target_compile_options(quivera_asio PUBLIC -Wa,-mbig-obj
+    $<$<NOT:$<CONFIG:Release,RelWithDebInfo,MinSizeRel>>:-O1>)
   target_link_libraries(quivera_asio PUBLIC ws2_32 mswsock crypt32 bcrypt)
 endif()
 

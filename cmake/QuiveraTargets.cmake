@@ -44,5 +44,5 @@ function(quivera_add_test name)
   target_link_libraries(${name} PRIVATE quivera_flags ${ARG_LIBS})
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT ${ARG_TIMEOUT}
-    ENVIRONMENT "VELTO_DISCOVERY_INTERFACES=lo;QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
+    ENVIRONMENT "VELTO_DISCOVERY_INTERFACES=lo;QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leak-suppressions.txt:print_suppressions=0")
 endfunction()

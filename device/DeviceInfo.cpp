@@ -4,6 +4,7 @@
 
 #include <orvex/Messaging/Discovered.h>
 
+#include <algorithm>
 #include <mutex>
 #include <stdexcept>
 #include <string>
@@ -163,6 +164,16 @@ void DeviceInfo::setRecognitionTolerance(int tolerance) {
 
 void DeviceInfo::setSeats(SeatStatusList seats) {
     store(DeviceField::Seats, m_values.seats, std::move(seats));
+}
+
+bool DeviceInfo::replaceSeat(const std::shared_ptr<SeatInfo>& seat, std::shared_ptr<SeatInfo> edited) {
+    const std::unique_lock lock(m_lock);
+    const auto found = std::find(m_values.seats.begin(), m_values.seats.end(), seat);
+    if (found == m_values.seats.end()) {
+        return false;
+    }
+    *found = std::move(edited);
+    return true;
 }
 
 void DeviceInfo::setMediaList(QSharedPointer<MediaList> list) {

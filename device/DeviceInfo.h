@@ -117,6 +117,10 @@ public:
     void setMediaList(QSharedPointer<MediaList> list);
     void setDetailedStatusInfo(QSharedPointer<DetailedStatusInfo> info);
 
+    /// Puts an edited copy in the place of a seat: what the user has set, before the unit has answered for
+    /// it. False when the unit has reported other seats meanwhile.
+    bool replaceSeat(const std::shared_ptr<SeatInfo>& seat, std::shared_ptr<SeatInfo> edited);
+
     /// Going offline, also again, returns every value that was read from the unit to its default and marks
     /// every field changed and none valid, so that each view refreshes.
     void setOnline(bool online);

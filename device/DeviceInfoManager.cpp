@@ -2,13 +2,22 @@
 
 #include "device/DeviceInfo.h"
 #include "device/DiscoveryQueue.h"
+#include "device/PendingSettings.h"
 #include "device/ProgramLog.h"
 #include "device/states/IdleState.h"
+#include "device/states/InitNetworkSetupState.h"
+#include "device/states/MonitorDeviceWiFiState.h"
+#include "device/states/SetDevicePropertyState.h"
+#include "device/states/SetDeviceWiFiState.h"
 #include "device/states/UpdateDeviceListState.h"
+#include "device/states/UpdateDeviceWiFiState.h"
+#include "device/states/UpdateSelectedDeviceFieldsState.h"
+#include "device/states/UpdateSelectedDeviceState.h"
 #include "messaging/Communicator.h"
 
 #include <orvex/Messaging/Discoverer.h>
 
+#include <QTimer>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -22,20 +31,39 @@ namespace {
 
 constexpr int tickInterval = 800; // ms
 constexpr int failuresToOffline = 2;
+constexpr int settingsBeat = 100;                 // ms, while settings wait to be sent
+constexpr int contentUpdateDelay = 500;           // ms
+constexpr std::uint32_t wiFiLoginTimeout = 10000; // ms
 
 } // namespace
 
 struct DeviceInfoManager::States {
     explicit States(DeviceInfoManager& manager)
         : updateDeviceList(manager)
-        , idle(manager) {}
+        , updateSelectedDevice(manager)
+        , updateSelectedDeviceFields(manager)
+        , setDeviceProperty(manager)
+        , updateDeviceWiFi(manager)
+        , idle(manager)
+        , initNetworkSetup(manager, updateDeviceWiFi)
+        , monitorDeviceWiFi(manager, idle)
+        , setDeviceWiFi(manager, monitorDeviceWiFi, idle) {}
 
     UpdateDeviceListState updateDeviceList;
+    UpdateSelectedDeviceState updateSelectedDevice;
+    UpdateSelectedDeviceFieldsState updateSelectedDeviceFields;
+    SetDevicePropertyState setDeviceProperty;
+    UpdateDeviceWiFiState updateDeviceWiFi;
     IdleState idle;
+    InitNetworkSetupState initNetworkSetup;
+    MonitorDeviceWiFiState monitorDeviceWiFi;
+    SetDeviceWiFiState setDeviceWiFi;
 };
 
-DeviceInfoManager::DeviceInfoManager()
+DeviceInfoManager::DeviceInfoManager(std::function<Clock::time_point()> now)
     : m_discovered(std::make_shared<DiscoveryQueue>())
+    , m_now(std::move(now))
+    , m_settings(std::make_unique<PendingSettings>())
     , m_states(std::make_unique<States>(*this))
     , m_state(&m_states->updateDeviceList) {}
 
@@ -67,18 +95,177 @@ void DeviceInfoManager::activateDeviceList() {
     switchTo(m_states->updateDeviceList);
 }
 
+void DeviceInfoManager::startDeviceSetup() {
+    switchTo(m_states->initNetworkSetup);
+}
+
+void DeviceInfoManager::showingWiFiList() {
+    switchTo(m_states->updateDeviceWiFi);
+}
+
 void DeviceInfoManager::selectDevice(int index) {
     const auto unit = deviceAt(index);
     if (!unit) {
         return;
     }
+    cancelPoll();
+    select(unit);
+}
+
+void DeviceInfoManager::showingDeviceInfo() {
+    switchTo(m_states->updateSelectedDevice);
+    triggerSubscriptionAndContentUpdate();
+}
+
+void DeviceInfoManager::triggerSubscriptionAndContentUpdate() {
+    QTimer::singleShot(contentUpdateDelay, this, [this] {
+        if (m_selected) {
+            queueSetting(std::make_shared<SetContentUpdateRequest>());
+        }
+    });
+}
+
+void DeviceInfoManager::showingNetworkStatus() {
+    showFields(DeviceField::mask({DeviceField::Network}), 6000, 6000);
+}
+
+void DeviceInfoManager::showingDeviceVersions() {
+    showFields(DeviceField::mask({DeviceField::Name, DeviceField::SoftwareVersion}), 5000, 5000);
+}
+
+void DeviceInfoManager::showingMediaList() {
+    showFields(DeviceField::mask({DeviceField::MediaList}), 0, 30000);
+}
+
+void DeviceInfoManager::showingDetailedStatusInfo() {
+    showFields(DeviceField::mask({DeviceField::DetailedStatus}), 0, 2000);
+}
+
+void DeviceInfoManager::showFields(std::uint32_t fields, int firstInterval, int repeatInterval) {
+    m_states->updateSelectedDeviceFields.configure(fields, firstInterval, repeatInterval);
+    switchTo(m_states->updateSelectedDeviceFields);
+}
+
+void DeviceInfoManager::connectDeviceToWiFi(QString name, QString key) {
+    if (!m_selected) {
+        return;
+    }
+    const auto status = m_selected->networkStatus();
+    m_states->monitorDeviceWiFi.setFormerNetwork(status ? status->ssid : QString());
+    m_selected->setFieldValid(DeviceField::WiFiSetupResult, false);
     cancelRequest();
-    m_selected = unit;
-    emit selectedDeviceUpdated();
+    switchTo(m_states->setDeviceWiFi);
+    sendNow(std::make_shared<SetWiFiLoginRequest>(std::move(name), std::move(key)), wiFiLoginTimeout);
+}
+
+void DeviceInfoManager::resetNetworkSettings() {
+    if (m_selected) {
+        sendNow(std::make_shared<ActivateHotspotRequest>(), 0);
+        m_selected->setOnline(false);
+    }
+    switchTo(m_states->idle);
 }
 
 void DeviceInfoManager::goIdle() {
     switchTo(m_states->idle);
+}
+
+void DeviceInfoManager::setDeviceName(QString name) {
+    if (!m_selected || name.isEmpty() || name == m_selected->name()) {
+        return;
+    }
+    m_selected->setName(name);
+    emit selectedDeviceUpdated();
+    const int row = positionOf(m_selected);
+    if (row >= 0) {
+        emit itemUpdated(row);
+    }
+    m_states->updateSelectedDeviceFields.configure(
+        DeviceField::mask({DeviceField::Name, DeviceField::SoftwareVersion}), 5000, 5000);
+    queueAndShow(std::make_shared<SetNameRequest>(std::move(name)), m_states->updateSelectedDeviceFields);
+}
+
+void DeviceInfoManager::setAdaptiveAudioParameters(int preMixType) {
+    queueAndShow(std::make_shared<SetAdaptiveAudioParametersRequest>(preMixType),
+                 m_states->updateSelectedDevice);
+}
+
+void DeviceInfoManager::setAutomaticVolumeControl(bool enable) {
+    queueAndShow(std::make_shared<SetAutomaticVolumeControlRequest>(enable), m_states->updateSelectedDevice);
+}
+
+void DeviceInfoManager::requestAutomaticVolumeControl() {
+    queueSetting(std::make_shared<SetAutomaticVolumeControlRequest>(true));
+}
+
+void DeviceInfoManager::setCaptureDevice(int index) {
+    const CaptureDeviceList devices = m_selected ? m_selected->captureDevices() : CaptureDeviceList();
+    if (index >= 0 && index < static_cast<int>(devices.size())) {
+        const auto& device = devices[static_cast<std::size_t>(index)];
+        queueAndShow(std::make_shared<SetCaptureDeviceRequest>(device->identification),
+                     m_states->updateSelectedDevice);
+    }
+}
+
+void DeviceInfoManager::setCaptureVolume(int volume) {
+    queueAndShow(std::make_shared<SetCaptureVolumeRequest>(volume), m_states->updateSelectedDevice);
+}
+
+void DeviceInfoManager::setExperienceMode(int index) {
+    const QList<int> modes = m_selected ? m_selected->experienceModes().modeIds : QList<int>();
+    if (index >= 0 && index < modes.size()) {
+        queueAndShow(std::make_shared<SetExperienceModeRequest>(modes.at(index)),
+                     m_states->updateSelectedDevice);
+    }
+}
+
+void DeviceInfoManager::setMotionDelay(int delay) {
+    queueAndShow(std::make_shared<SetMotionDelayRequest>(delay), m_states->updateSelectedDevice);
+}
+
+void DeviceInfoManager::setRecognitionTolerance(int tolerance) {
+    queueAndShow(std::make_shared<SetRecognitionToleranceRequest>(tolerance), m_states->updateSelectedDevice);
+}
+
+void DeviceInfoManager::setSeatSetting(std::shared_ptr<SeatInfo> seat) {
+    queueAndShow(std::make_shared<SetSeatSettingRequest>(std::move(seat)), m_states->updateSelectedDevice);
+}
+
+void DeviceInfoManager::queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState) {
+    if (!m_selected) {
+        return;
+    }
+    queueSetting(std::move(request));
+    m_states->setDeviceProperty.returnTo(returnState);
+    switchTo(m_states->setDeviceProperty);
+}
+
+/// Settings outlive the page they were made on: they are sent to their unit whatever state is current by
+/// then.
+void DeviceInfoManager::queueSetting(std::shared_ptr<DeviceUpdateRequest> request) {
+    m_settings->add(m_selected, std::move(request));
+    startTimer(settingsBeat);
+}
+
+bool DeviceInfoManager::sendPendingSetting() {
+    if (m_settings->isEmpty() || !m_communicator->isIdle()) {
+        return false;
+    }
+    const PendingSettings::Setting setting = m_settings->take();
+    startRequest(setting.unit, setting.request->refreshFields, setting.request, 0);
+    return true;
+}
+
+void DeviceInfoManager::sendNow(std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout) {
+    cancelRequest();
+    const std::uint32_t fields = request->refreshFields;
+    startRequest(m_selected, fields, std::move(request), timeout);
+}
+
+void DeviceInfoManager::startRequest(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields,
+                                     std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout) {
+    m_requested = unit;
+    m_communicator->startRequest(unit, fields, std::move(request), timeout);
 }
 
 void DeviceInfoManager::switchTo(State& state) {
@@ -89,6 +276,9 @@ void DeviceInfoManager::switchTo(State& state) {
 
 void DeviceInfoManager::startTimer(int milliseconds) {
     stopTimer();
+    if (!m_settings->isEmpty()) {
+        milliseconds = std::min(milliseconds, settingsBeat);
+    }
     m_timerId = QObject::startTimer(milliseconds, Qt::CoarseTimer);
 }
 
@@ -108,7 +298,9 @@ void DeviceInfoManager::timerEvent(QTimerEvent* event) {
 
 void DeviceInfoManager::tick() {
     m_discoverer->removeExpiredItems();
-    m_state->onTimer();
+    if (!sendPendingSetting()) {
+        m_state->onTimer();
+    }
 }
 
 void DeviceInfoManager::onRequestComplete(bool success) {
@@ -118,7 +310,12 @@ void DeviceInfoManager::onRequestComplete(bool success) {
 
 void DeviceInfoManager::complete(bool success) {
     countForSelected(success);
-    m_state->onRequestComplete(success);
+    if (m_settings->isInFlight()) {
+        m_settings->finish(success);
+        startTimer(settingsBeat);
+    } else {
+        m_state->onRequestComplete(success);
+    }
     if (m_selected && m_selected->changedFields().any()) {
         emit selectedDeviceUpdated();
         const int row = positionOf(m_selected);
@@ -129,7 +326,7 @@ void DeviceInfoManager::complete(bool success) {
 }
 
 void DeviceInfoManager::countForSelected(bool success) {
-    if (!m_selected || m_cancelling) {
+    if (!m_selected || m_selected != m_requested || m_cancelling) {
         return;
     }
     if (success) {
@@ -160,6 +357,12 @@ void DeviceInfoManager::guarded(const char* what, const std::function<void()>& s
     }
 }
 
+void DeviceInfoManager::cancelPoll() {
+    if (!m_settings->isInFlight()) {
+        cancelRequest();
+    }
+}
+
 void DeviceInfoManager::cancelRequest() {
     const bool outer = std::exchange(m_cancelling, true);
     m_communicator->cancelRequest();
@@ -171,10 +374,13 @@ void DeviceInfoManager::select(std::shared_ptr<DeviceInfo> unit) {
     emit selectedDeviceUpdated();
 }
 
-void DeviceInfoManager::drainDiscovery() {
+void DeviceInfoManager::drainDiscovery(Relocation relocation) {
     for (const auto& discovered : m_discovered->take()) {
-        if (!m_devicesByUid.contains(QString::fromStdString(discovered->getUId()))) {
+        const auto known = m_devicesByUid.value(QString::fromStdString(discovered->getUId()));
+        if (!known) {
             insert(std::make_shared<DeviceInfo>(*discovered));
+        } else if (relocation == Relocation::Followed && known == m_selected) {
+            known->moveTo(DeviceInfo(*discovered));
         }
     }
 }

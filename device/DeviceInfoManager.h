@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -19,6 +20,9 @@ namespace orvex {
 class Communicator;
 class DeviceInfo;
 class DiscoveryQueue;
+class PendingSettings;
+struct DeviceUpdateRequest;
+struct SeatInfo;
 
 /// Owns the list of known units and decides which of them is asked for what, and when: a state machine driven
 /// by one timer and by the `Communicator`'s completions. The pages tell it what they show.
@@ -29,8 +33,10 @@ class DeviceInfoManager : public QObject {
 
 public:
     class State;
+    using Clock = std::chrono::steady_clock;
 
-    DeviceInfoManager();
+    /// `now` is the clock that the refresh intervals are measured by.
+    explicit DeviceInfoManager(std::function<Clock::time_point()> now = &Clock::now);
     ~DeviceInfoManager() override;
     DeviceInfoManager(const DeviceInfoManager&) = delete;
     DeviceInfoManager& operator=(const DeviceInfoManager&) = delete;
@@ -43,12 +49,45 @@ public:
     std::shared_ptr<DeviceInfo> deviceAt(int index) const; ///< none when out of range
     std::shared_ptr<DeviceInfo> selectedDevice() const { return m_selected; }
 
+    // Called by the pages: what is shown decides what is polled. Without a selected unit, those that concern
+    // one do nothing but change the state.
+
     /// Shows the list of units: it is rebuilt from fresh announcements, no unit is selected.
     Q_INVOKABLE void activateDeviceList();
+    /// Looks for a unit that waits in access-point mode, and selects it.
+    Q_INVOKABLE void startDeviceSetup();
+    Q_INVOKABLE void showingWiFiList();
+    /// Joins the selected unit to a network; `key` is the pass phrase as typed.
+    Q_INVOKABLE void connectDeviceToWiFi(QString name, QString key);
     /// Selects the unit in that row; out of range does nothing.
     Q_INVOKABLE void selectDevice(int index);
+    /// Half a second from now, has the selected unit renew its library.
+    Q_INVOKABLE void triggerSubscriptionAndContentUpdate();
+    Q_INVOKABLE void showingDeviceInfo();
+    Q_INVOKABLE void showingNetworkStatus();
+    /// Makes the selected unit forget its network and bring up its own access point.
+    Q_INVOKABLE void resetNetworkSettings();
+    Q_INVOKABLE void showingDeviceVersions();
+    Q_INVOKABLE void showingMediaList();
+    Q_INVOKABLE void showingDetailedStatusInfo();
+    /// Renames the selected unit; an empty name, or the present one, does nothing.
+    Q_INVOKABLE void setDeviceName(QString name);
     /// Polls nothing.
     Q_INVOKABLE void goIdle();
+
+    // Settings of the selected unit: queued, and sent as soon as no request is under way. Of several of one
+    // kind the newest is sent. Without a selected unit, or out of range: nothing.
+    void setAdaptiveAudioParameters(int preMixType);
+    void setAutomaticVolumeControl(bool enable);
+    void setCaptureDevice(int index);            ///< position in the unit's list
+    void setCaptureVolume(int volume);           ///< dB
+    void setExperienceMode(int index);           ///< position in the unit's list
+    void setMotionDelay(int delay);              ///< ms
+    void setRecognitionTolerance(int tolerance); ///< s
+    void setSeatSetting(std::shared_ptr<SeatInfo> seat);
+
+    /// Asks for automatic volume control on the selected unit without leaving what the page polls.
+    void requestAutomaticVolumeControl();
 
 public slots:
     void onRequestComplete(bool success);
@@ -66,6 +105,11 @@ private:
     struct States;
 
     void switchTo(State& state);
+    void showFields(std::uint32_t fields, int firstInterval, int repeatInterval);
+    void queueSetting(std::shared_ptr<DeviceUpdateRequest> request);
+    void queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState);
+    bool sendPendingSetting();
+    void sendNow(std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout);
     void startTimer(int milliseconds);
     void stopTimer();
     void tick();
@@ -73,9 +117,13 @@ private:
     void countForSelected(bool success);
     void guarded(const char* what, const std::function<void()>& step);
 
+    void startRequest(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields,
+                      std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout);
     void cancelRequest();
+    void cancelPoll();
     void select(std::shared_ptr<DeviceInfo> unit);
-    void drainDiscovery();
+    enum class Relocation { Ignored, Followed };
+    void drainDiscovery(Relocation relocation);
     void insert(std::shared_ptr<DeviceInfo> unit);
     void remove(const std::shared_ptr<DeviceInfo>& unit);
     int positionOf(const std::shared_ptr<DeviceInfo>& unit) const; ///< -1 when not listed
@@ -84,8 +132,11 @@ private:
     std::shared_ptr<Messaging::Discoverer> m_discoverer;
     std::shared_ptr<DiscoveryQueue> m_discovered;
     std::shared_ptr<DeviceInfo> m_selected;
+    std::shared_ptr<DeviceInfo> m_requested; ///< the unit of the request under way, or of the last one
+    std::function<Clock::time_point()> m_now;
     int m_timerId = 0;
     bool m_cancelling = false; ///< the completion under way is of our own making
+    std::unique_ptr<PendingSettings> m_settings;
     std::unique_ptr<States> m_states;
     State* m_state;
 

@@ -1,8 +1,11 @@
 #include "Platform.h"
 
-#include <iphlpapi.h>
+// The last declares its functions only after the first.
+// clang-format off
 #include <winsock2.h>
 #include <ws2tcpip.h>
+#include <iphlpapi.h>
+// clang-format on
 
 #include <cstddef>
 

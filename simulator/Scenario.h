@@ -57,7 +57,7 @@ class ScenarioPlayer {
 public:
     /// `failed` hears of an action that could not be done, with the reason, on the host's thread.
     ScenarioPlayer(SimulatorHost& host, const std::vector<std::unique_ptr<SimulatedUnit>>& units,
-                   std::vector<Action> actions, std::function<void(const std::string&)> failed);
+                   std::vector<Action> actions, const std::function<void(const std::string&)>& failed);
     ~ScenarioPlayer();
     ScenarioPlayer(const ScenarioPlayer&) = delete;
     ScenarioPlayer& operator=(const ScenarioPlayer&) = delete;

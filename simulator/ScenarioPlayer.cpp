@@ -34,7 +34,8 @@ void act(SimulatedUnit& unit, const Action& action) {
 } // namespace
 
 ScenarioPlayer::ScenarioPlayer(SimulatorHost& host, const std::vector<std::unique_ptr<SimulatedUnit>>& units,
-                               std::vector<Action> actions, std::function<void(const std::string&)> failed)
+                               std::vector<Action> actions,
+                               const std::function<void(const std::string&)>& failed)
     : m_host(host)
     , m_playing(std::make_shared<bool>(true)) {
     for (Action& action : actions) {

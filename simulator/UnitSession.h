@@ -34,7 +34,7 @@ namespace websocket = beast::websocket;
 constexpr std::chrono::seconds handshakeTime{10}; ///< for each of TLS, the HTTP request and the upgrade
 constexpr std::chrono::seconds pingInterval{5};
 constexpr std::chrono::seconds longestSilence{15};
-constexpr std::size_t maximumRequestHeader = 8 * 1024;
+constexpr std::size_t maximumRequestHeader = std::size_t{8} * 1024;
 constexpr std::size_t maximumQueue = 1024; ///< frames that wait for a client that does not read
 
 using PlainStream = beast::tcp_stream;
@@ -123,6 +123,10 @@ public:
             return;
         if (m_silent) {
             end(); // half a frame is out: no word can follow it
+            return;
+        }
+        if (!m_upgraded) {
+            m_closeWhenUp = code;
             return;
         }
         m_open = false;
@@ -226,13 +230,27 @@ private:
         m_socket.read_message_max(Velto::Wire::maximumFrameSize);
         m_socket.control_callback(
             [this](websocket::frame_type /*type*/, beast::string_view /*payload*/) { heard(); });
+        // Open from here on: the client may know of the upgrade before we learn that our word of it is out,
+        // and must miss nothing that is sent from then on. It waits in the queue until then.
+        m_open = true;
+        m_delivering = true;
+        m_unit->connectionOpened();
         m_socket.async_accept(m_parser.get(), then([](UnitSession& self) {
-                                  self.m_open = true;
+                                  self.m_upgraded = true;
+                                  self.m_delivering = false;
                                   self.heard();
-                                  self.m_unit->connectionOpened();
-                                  self.keepAlive();
-                                  self.read();
+                                  self.beginTalk();
                               }));
+    }
+
+    void beginTalk() {
+        if (m_closeWhenUp) {
+            close(*m_closeWhenUp);
+            return;
+        }
+        keepAlive();
+        deliverNext();
+        readOn();
     }
 
     void heard() { m_lastHeard = std::chrono::steady_clock::now(); }
@@ -379,7 +397,9 @@ private:
     std::multimap<std::chrono::steady_clock::time_point, Outgoing> m_queue;
     Outgoing m_current;
     std::string m_raw;
-    bool m_open = false;
+    std::optional<std::uint16_t> m_closeWhenUp;
+    bool m_open = false;     ///< takes frames
+    bool m_upgraded = false; ///< and lets them out
     bool m_reading = false;
     bool m_delivering = false;
     bool m_silent = false;

@@ -1,6 +1,7 @@
 #include "device/states/State.h"
 
 #include "device/DiscoveryQueue.h"
+#include "device/PendingSettings.h"
 #include "messaging/Communicator.h"
 
 #include <orvex/Messaging/Discoverer.h>
@@ -13,7 +14,13 @@ bool DeviceInfoManager::State::isCommunicatorIdle() const {
 
 void DeviceInfoManager::State::requestFields(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields,
                                              std::uint32_t timeout) {
-    m_manager.m_communicator->startRequest(unit, fields, nullptr, timeout);
+    if (unit) {
+        m_manager.startRequest(unit, fields, nullptr, timeout);
+    }
+}
+
+bool DeviceInfoManager::State::areSettingsPending() const {
+    return !m_manager.m_settings->isEmpty() || m_manager.m_settings->isInFlight();
 }
 
 void DeviceInfoManager::State::restartDiscovery() {

@@ -25,7 +25,7 @@ bool isFullyKnown(const DeviceInfo& unit) {
 void UpdateDeviceListState::enter() {
     // The cancellation completes inside its call; that completion is no answer to a poll of this state.
     m_pollInFlight = false;
-    cancelRequest();
+    cancelPoll();
     if (selected() && !selected()->isOnline()) {
         remove(selected());
     }

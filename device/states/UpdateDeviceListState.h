@@ -19,7 +19,8 @@ private:
 
     std::shared_ptr<DeviceInfo> m_lastPolled;
     bool m_pollInFlight = false;
-    bool m_wasKnown = false; ///< the unit polled last had answered before, so its first reading is not worth a line
+    bool m_wasKnown =
+        false; ///< the unit polled last had answered before, so its first reading is not worth a line
 };
 
 } // namespace orvex

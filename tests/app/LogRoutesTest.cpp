@@ -9,6 +9,7 @@
 #include <spdlog/sinks/ostream_sink.h>
 #include <spdlog/spdlog.h>
 
+#include <algorithm>
 #include <sstream>
 #include <thread>
 
@@ -39,6 +40,13 @@ protected:
     }
     void TearDown() override { spdlog::drop_all(); }
 
+    /// The lines so far, whatever the system ends them with.
+    std::string logged() const {
+        std::string lines = text.str();
+        lines.erase(std::remove(lines.begin(), lines.end(), '\r'), lines.end());
+        return lines;
+    }
+
     std::ostringstream text;
     inline static QtMessageHandler m_original = nullptr;
 };
@@ -50,21 +58,21 @@ TEST_F(LogRoutesTest, QtMessagesAreLoggedAtTheirLevelAndHandedOn) {
     qCritical("critical");
     // What Qt itself would do next ends the process.
     orvex::appLoggerHandler(QtFatalMsg, {}, QStringLiteral("fatal"));
-    EXPECT_EQ(text.str(), "info:info\nwarning:warning\nerror:critical\ncritical:fatal\n");
+    EXPECT_EQ(logged(), "info:info\nwarning:warning\nerror:critical\ncritical:fatal\n");
     EXPECT_EQ(handedOn, (QStringList{"debug", "info", "warning", "critical", "fatal"}));
 }
 
 TEST_F(LogRoutesTest, QtMessagesAreNeverTakenForFormats) {
     const QString message = QStringLiteral("%s{}%n{0}{:>99999}{");
     qInfo("%s", qPrintable(message));
-    EXPECT_EQ(text.str(), "info:" + message.toStdString() + "\n");
+    EXPECT_EQ(logged(), "info:" + message.toStdString() + "\n");
 }
 
 TEST_F(LogRoutesTest, QtMessagesOfAnyThreadAreOnlyHandedOnWithoutALogger) {
     spdlog::drop_all();
     std::thread([] { qWarning("after the log"); }).join();
     EXPECT_EQ(handedOn, QStringList{"after the log"});
-    EXPECT_EQ(text.str(), "");
+    EXPECT_EQ(logged(), "");
 }
 
 TEST_F(LogRoutesTest, ComponentFailuresAreLoggedInTheirKnownWords) {
@@ -75,15 +83,15 @@ TEST_F(LogRoutesTest, ComponentFailuresAreLoggedInTheirKnownWords) {
         }
     }
     orvex::reportComponentStep(Step::Suspend, static_cast<Result>(17));
-    EXPECT_EQ(text.str(), "error:Fatal Error: Failed to initialize Components\n"
-                          "error:Configuration Error: Failed to initialize Components\n"
-                          "error:Fatal Error: failed to activate Components\n"
-                          "error:Configuration Error: failed to activate Components\n"
-                          "error:Fatal Error: Failed to suspend Components\n"
-                          "error:Configuration Error: Failed to suspend Components\n"
-                          "error:Fatal Error: Failed to shutdown Components\n"
-                          "error:Configuration Error: Failed to shutdown Components\n"
-                          "error:Configuration Error: Failed to suspend Components\n");
+    EXPECT_EQ(logged(), "error:Fatal Error: Failed to initialize Components\n"
+                        "error:Configuration Error: Failed to initialize Components\n"
+                        "error:Fatal Error: failed to activate Components\n"
+                        "error:Configuration Error: failed to activate Components\n"
+                        "error:Fatal Error: Failed to suspend Components\n"
+                        "error:Configuration Error: Failed to suspend Components\n"
+                        "error:Fatal Error: Failed to shutdown Components\n"
+                        "error:Configuration Error: Failed to shutdown Components\n"
+                        "error:Configuration Error: Failed to suspend Components\n");
 }
 
 } // namespace

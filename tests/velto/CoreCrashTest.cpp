@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -19,37 +18,29 @@ namespace fs = std::filesystem;
 
 struct Crash {
     const char* how;
-    const char* cause; ///< in the report; none: no report
-    const char* told;  ///< what the observer noted
-    int signal;        ///< that ends the process
-    unsigned windowsExitCode;
+    const char* cause; ///< in the report
 };
 
 void PrintTo(const Crash& crash, std::ostream* out) {
     *out << crash.how;
 }
 
-constexpr unsigned accessViolation = 0xC0000005;
-constexpr unsigned stackOverflow = 0xC00000FD;
-
 class CrashTest : public testing::TestWithParam<Crash> {
 protected:
     void SetUp() override { fs::remove_all(m_folder); }
     void TearDown() override { fs::remove_all(m_folder); }
 
-    /// Runs the crashing program to its end.
-    void run() {
+    /// Runs the crashing program to its end and returns how that was: the signal, on Windows the exit code.
+    int run(const std::string& manner) const {
 #ifdef _WIN32
-        const auto code = static_cast<unsigned>(std::system(
-            (std::string(CRASHING_PROGRAM) + " " + m_folder.string() + " " + GetParam().how).c_str()));
-        EXPECT_EQ(code, GetParam().windowsExitCode);
+        return std::system((std::string(CRASHING_PROGRAM) + " " + m_folder.string() + " " + manner).c_str());
 #else
         // No core files; and the program in place of the shell, so that its own signal is seen.
-        const std::string command = std::string("ulimit -c 0; exec '") + CRASHING_PROGRAM + "' '" +
-                                    m_folder.string() + "' " + GetParam().how;
+        const std::string command =
+            std::string("ulimit -c 0; exec '") + CRASHING_PROGRAM + "' '" + m_folder.string() + "' " + manner;
         const int status = std::system(command.c_str());
-        ASSERT_TRUE(WIFSIGNALED(status)) << status;
-        EXPECT_EQ(WTERMSIG(status), GetParam().signal);
+        EXPECT_TRUE(WIFSIGNALED(status)) << status;
+        return WTERMSIG(status);
 #endif
     }
 
@@ -66,8 +57,10 @@ protected:
 };
 
 TEST_P(CrashTest, IsRecordedThenToldOnceThenEndsTheProcessAsTheSystemWould) {
-    run();
-    EXPECT_EQ(content(dataFolder() / "told"), GetParam().told);
+    const int endWithoutHandling = run(std::string("plain-") + GetParam().how);
+    EXPECT_TRUE(fs::is_empty(dataFolder())) << "a handler that is not enabled keeps out";
+    EXPECT_EQ(run(GetParam().how), endWithoutHandling);
+    EXPECT_EQ(content(dataFolder() / "told"), "report;");
     std::string report;
     int reports = 0;
     for (const auto& entry : fs::directory_iterator(dataFolder())) {
@@ -76,10 +69,7 @@ TEST_P(CrashTest, IsRecordedThenToldOnceThenEndsTheProcessAsTheSystemWould) {
             ++reports;
         }
     }
-    ASSERT_EQ(reports, GetParam().cause ? 1 : 0);
-    if (!GetParam().cause) {
-        return;
-    }
+    ASSERT_EQ(reports, 1);
     EXPECT_NE(report.find("Crash Test 1.2.3"), std::string::npos) << report;
     EXPECT_NE(report.find(GetParam().cause), std::string::npos) << report;
     const std::size_t backtrace = report.find("Backtrace:\n");
@@ -98,15 +88,11 @@ constexpr const char* abortCause = "Cause: SIGABRT";
 #endif
 
 INSTANTIATE_TEST_SUITE_P(Every, CrashTest,
-                         testing::Values(Crash{"memory", memoryFault, "report;", SIGSEGV, accessViolation},
-                                         Crash{"thread", memoryFault, "report;", SIGSEGV, accessViolation},
-                                         Crash{"overflow", overflowFault, "report;", SIGSEGV, stackOverflow},
-                                         Crash{"abort", abortCause, "report;", SIGABRT, 3},
+                         testing::Values(Crash{"memory", memoryFault}, Crash{"thread", memoryFault},
+                                         Crash{"overflow", overflowFault}, Crash{"abort", abortCause},
                                          Crash{"exception",
-                                               "uncaught exception std::runtime_error: seat 3 on fire",
-                                               "report;", SIGABRT, 3},
-                                         Crash{"observer", memoryFault, "report;", SIGSEGV, accessViolation},
-                                         Crash{"disabled", nullptr, "", SIGABRT, 3}),
+                                               "uncaught exception std::runtime_error: seat 3 on fire"},
+                                         Crash{"observer", memoryFault}),
                          [](const auto& crash) { return std::string(crash.param.how); });
 
 TEST(CrashHandler, IsNotInstalledWithoutAFolderForItsReports) {

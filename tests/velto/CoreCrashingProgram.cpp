@@ -1,5 +1,6 @@
 // Crashes in the way that its second argument names, after setting up crash handling in the folder that its
-// first argument names. Its observer notes in the file "told" whether the report was there when it was told.
+// first argument names; with "plain-" before the way, without. Its observer notes in the file "told" whether
+// the report was there when it was told.
 #include <Velto/ApplicationInfo.h>
 #include <Velto/CrashHandler.h>
 
@@ -74,13 +75,16 @@ int main(int argc, char** argv) {
     if (argc != 3) {
         return 2;
     }
-    const std::string_view how = argv[2];
+    constexpr std::string_view plainMark = "plain-";
+    std::string_view how = argv[2];
+    const bool isPlain = how.substr(0, plainMark.size()) == plainMark;
+    how.remove_prefix(isPlain ? plainMark.size() : 0);
     ApplicationInfo::Init("Crash Test", u8"Zoë-席", "Orvex", "1.2.3", argv[1],
                           ApplicationInfo::DataFolderType::User, argc, argv);
     const auto handler = Velto::CrashHandler::getInstance();
-    handler->configure({fs::path("CrashTest"), ApplicationInfo::DataPath(), how != "disabled"});
+    handler->configure({fs::path("CrashTest"), ApplicationInfo::DataPath(), !isPlain});
     handler->initialize();
     handler->addObserver(std::make_shared<NotingObserver>(how == "observer"));
-    crash(how == "disabled" ? "abort" : how);
+    crash(how);
     return 0;
 }

@@ -24,8 +24,8 @@ Prepared& prepared() {
 }
 const Prepared* preparedTexts = nullptr;
 
-// Enough of the stack is kept back to write the report after an overflow.
-constexpr ULONG stackGuarantee = 128 * 1024;
+// Kept back of a thread's stack for what happens after an overflow.
+constexpr ULONG stackGuarantee = 64 * 1024;
 
 // What the process's exit code tells of a programmed abort; the value that the C library's own abort gives.
 constexpr UINT abortExitCode = 3;
@@ -126,8 +126,7 @@ void waitForTurn(UINT exitCode) noexcept {
     }
 }
 
-LONG WINAPI handleException(EXCEPTION_POINTERS* exception) {
-    const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+void handleRecord(const EXCEPTION_RECORD& record) noexcept {
     waitForTurn(record.ExceptionCode);
     static CrashText cause;
     cause << "exception ";
@@ -135,6 +134,24 @@ LONG WINAPI handleException(EXCEPTION_POINTERS* exception) {
     cause.hex(reinterpret_cast<std::uintptr_t>(record.ExceptionAddress));
     writeReport(cause.c_str(), record.ExceptionAddress);
     tellCrashObservers();
+}
+
+DWORD WINAPI handleOnFreshStack(void* record) {
+    handleRecord(*static_cast<const EXCEPTION_RECORD*>(record));
+    return 0;
+}
+
+LONG WINAPI handleException(EXCEPTION_POINTERS* exception) {
+    EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+    if (record.ExceptionCode != EXCEPTION_STACK_OVERFLOW) {
+        handleRecord(record);
+        return EXCEPTION_CONTINUE_SEARCH;
+    }
+    // What is left of this stack is enough to start a thread and to wait for it.
+    if (const HANDLE thread = CreateThread(nullptr, 0, &handleOnFreshStack, &record, 0, nullptr)) {
+        WaitForSingleObject(thread, INFINITE);
+        CloseHandle(thread);
+    }
     return EXCEPTION_CONTINUE_SEARCH;
 }
 

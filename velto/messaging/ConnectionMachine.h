@@ -23,17 +23,17 @@ struct ChosenUnit {
 /// What the machine wants done, in the order given.
 namespace Act {
 struct OpenLink {
-    std::uint64_t generation;
+    std::uint64_t generation = 0;
     ChosenUnit unit;
-    std::chrono::milliseconds timeout;
+    std::chrono::milliseconds timeout{0};
 };
 /// Bounds the attempt under way anew, counted from now.
 struct BoundLink {
-    std::uint64_t generation;
-    std::chrono::milliseconds timeout;
+    std::uint64_t generation = 0;
+    std::chrono::milliseconds timeout{0};
 };
 struct CloseLink {
-    std::uint64_t generation;
+    std::uint64_t generation = 0;
 };
 struct ReportConnected {};
 struct ReportLost {};

@@ -54,8 +54,9 @@ void Discoverer::clearDiscovered() {
 
 bool Discoverer::announce(Discovered::Values values, Clock::duration lifetime) {
     const auto discovered = std::make_shared<Discovered>(std::move(values));
-    if (!store(discovered, lifetime))
-        return false;
+    const Stored stored = store(discovered, lifetime);
+    if (stored != Stored::Yes)
+        return stored == Stored::PassedOver;
     notifyObservers([&discovered](IDiscovererObserver& observer) {
         try {
             observer.handleDiscovered(discovered);
@@ -87,20 +88,24 @@ std::string Discoverer::expectedUid(const std::string& address, std::uint16_t po
     return latest ? latest->discovered->getUId() : std::string();
 }
 
-bool Discoverer::store(std::shared_ptr<Discovered> discovered, Clock::duration lifetime) {
+Discoverer::Stored Discoverer::store(std::shared_ptr<Discovered> discovered, Clock::duration lifetime) {
     const auto now = m_now();
     const std::lock_guard lock(m_mutex);
-    Entry entry{std::move(discovered), now + lifetime, ++m_announcements};
+    Entry entry{std::move(discovered), now + lifetime, now + lifetime * 2 / 3, ++m_announcements};
     const auto known = m_byUid.find(entry.discovered->getUId());
     if (known != m_byUid.end()) {
-        *known->second = std::move(entry);
-        return true;
+        Entry& held = *known->second;
+        // An address that changed with every announcement would break the connection as often.
+        if (held.discovered->getAddress() != entry.discovered->getAddress() && now < held.movableFrom)
+            return Stored::PassedOver;
+        held = std::move(entry);
+        return Stored::Yes;
     }
     if (m_entries.size() >= maximumEntries)
-        return false;
+        return Stored::Full;
     m_entries.push_back(std::move(entry));
     m_byUid.emplace(m_entries.back().discovered->getUId(), std::prev(m_entries.end()));
-    return true;
+    return Stored::Yes;
 }
 
 template <class Condition>

@@ -15,8 +15,8 @@ std::chrono::milliseconds boundOf(std::int32_t timeout) {
 
 } // namespace
 
-Messenger::Messenger(std::vector<std::shared_ptr<DiscoveryStrategyInfo>> strategies, std::string serviceName,
-                     ITransport::TransportType transportType)
+Messenger::Messenger(const std::vector<std::shared_ptr<DiscoveryStrategyInfo>>& strategies,
+                     std::string serviceName, ITransport::TransportType transportType)
     : m_core(std::make_shared<Core>(*this, std::move(serviceName), transportType)) {
     m_core->addStrategies(strategies);
 }

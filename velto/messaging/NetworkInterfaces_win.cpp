@@ -1,8 +1,11 @@
 #include "messaging/NetworkInterfaces.h"
 
-#include <iphlpapi.h>
+// The system's headers build on one another in this order.
+// clang-format off
 #include <winsock2.h>
 #include <ws2tcpip.h>
+#include <iphlpapi.h>
+// clang-format on
 
 #include <cstdint>
 

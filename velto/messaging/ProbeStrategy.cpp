@@ -2,19 +2,18 @@
 
 #include "core/Areas.h"
 #include "messaging/NetworkInterfaces.h"
+#include "messaging/ProbeSocket.h"
 #include "wire/Announcement.h"
 
-#include <boost/asio/buffer.hpp>
 #include <boost/asio/error.hpp>
-#include <boost/asio/io_context.hpp>
-#include <boost/asio/ip/multicast.hpp>
-#include <boost/asio/ip/udp.hpp>
+#include <boost/asio/ip/address_v4.hpp>
 #include <boost/asio/steady_timer.hpp>
 #include <spdlog/logger.h>
 
 #include <algorithm>
-#include <array>
+#include <map>
 #include <random>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -22,8 +21,6 @@ namespace Velto::Messaging {
 
 namespace {
 
-using boost::asio::ip::address_v4;
-using boost::asio::ip::udp;
 using boost::system::error_code;
 using Clock = std::chrono::steady_clock;
 
@@ -40,12 +37,6 @@ std::string randomId() {
     return id;
 }
 
-/// Errors that concern one datagram, not the socket: it was too long, or one of ours found nobody listening.
-bool concernsOneDatagram(error_code error) {
-    return error == boost::asio::error::message_size || error == boost::asio::error::connection_reset ||
-           error == boost::asio::error::connection_refused;
-}
-
 class ProbeStrategy final : public DiscoveryStrategy, public std::enable_shared_from_this<ProbeStrategy> {
 public:
     ProbeStrategy(std::uint16_t port, std::chrono::milliseconds period,
@@ -56,8 +47,7 @@ public:
         , m_discoverer(surroundings.discoverer)
         , m_gate(surroundings.gate)
         , m_service(surroundings.service)
-        , m_timer(surroundings.thread->context())
-        , m_socket(surroundings.thread->context()) {}
+        , m_timer(surroundings.thread->context()) {}
 
     void start() override {
         post([](ProbeStrategy& self) {
@@ -72,7 +62,9 @@ public:
             self.m_started = true;
             self.m_stopped = true;
             self.m_timer.cancel();
-            self.closeSocket();
+            for (const auto& [address, socket] : self.m_sockets)
+                socket->close();
+            self.m_sockets.clear();
         });
     }
 
@@ -91,9 +83,10 @@ private:
         const auto all = listNetworkInterfaces();
         m_ownAddresses.clear();
         for (const NetworkInterface& own : all)
-            m_ownAddresses.push_back(own.address);
-        if (ensureSocket())
-            sendProbes(selectInterfaces(all, interfaceRestriction()));
+            m_ownAddresses.insert(own.address);
+        const auto usable = selectInterfaces(all, interfaceRestriction());
+        dropSocketsWithout(usable);
+        sendProbes(usable);
         summariseDropped();
         m_timer.expires_after(m_period);
         m_timer.async_wait([self = shared_from_this()](error_code error) {
@@ -102,100 +95,79 @@ private:
         });
     }
 
-    bool ensureSocket() {
-        if (m_socket.is_open())
-            return true;
-        error_code error;
-        m_socket.open(udp::v4(), error);
-        if (!error)
-            m_socket.set_option(boost::asio::socket_base::broadcast(true), error);
-        if (!error)
-            m_socket.bind(udp::endpoint(udp::v4(), 0), error);
-        if (!error)
-            m_socket.non_blocking(true, error);
-        if (error) {
-            tellTrouble(error.message());
-            closeSocket();
-            return false;
+    void dropSocketsWithout(const std::vector<NetworkInterface>& usable) {
+        for (auto known = m_sockets.begin(); known != m_sockets.end();) {
+            const bool gone = std::none_of(usable.begin(), usable.end(), [&](const NetworkInterface& one) {
+                return one.address == known->first;
+            });
+            if (gone || !known->second->isOpen()) {
+                known->second->close();
+                known = m_sockets.erase(known);
+            } else {
+                ++known;
+            }
         }
-        receive();
-        return true;
     }
 
     void sendProbes(const std::vector<NetworkInterface>& interfaces) {
         const std::string datagram = Wire::encode(Wire::Probe{m_service, Wire::protocolVersion, randomId()});
-        const auto group = boost::asio::ip::make_address_v4(Wire::multicastGroup);
-        int sent = 0;
-        error_code last;
+        bool sent = false;
+        std::string problem = "no network interface is up";
         for (const NetworkInterface& through : interfaces) {
-            const auto address = boost::asio::ip::make_address_v4(through.address);
-            error_code error;
-            m_socket.set_option(boost::asio::ip::multicast::outbound_interface(address), error);
-            if (!error)
-                error = send(datagram, group);
-            sent += error ? 0 : 1;
-            last = error ? error : last;
-            if (!through.broadcast.empty())
-                sent += send(datagram, boost::asio::ip::make_address_v4(through.broadcast)) ? 0 : 1;
-            if (through.loopback)
-                sent += send(datagram, address_v4::loopback()) ? 0 : 1;
+            const auto error = sendProbe(through, datagram);
+            sent = sent || !error;
+            if (error)
+                problem = error.message();
         }
-        if (sent > 0) {
+        if (sent)
             m_troubleTold = false;
-            return;
-        }
-        tellTrouble(interfaces.empty() ? "no network interface is up" : last.message());
-        closeSocket();
+        else
+            tellTrouble(problem);
     }
 
-    error_code send(const std::string& datagram, const address_v4& address) {
+    error_code sendProbe(const NetworkInterface& through, const std::string& datagram) {
+        auto& socket = m_sockets[through.address];
+        if (!socket) {
+            const auto thread = m_thread.lock();
+            if (!thread)
+                return boost::asio::error::operation_aborted;
+            socket = std::make_shared<ProbeSocket>(
+                thread->context(), through,
+                [weak = weak_from_this()](std::string_view received, const std::string& from) {
+                    if (const auto self = weak.lock())
+                        self->heard(received, from);
+                });
+        }
         error_code error;
-        m_socket.send_to(boost::asio::buffer(datagram), udp::endpoint(address, m_port), 0, error);
+        if (!socket->isOpen())
+            error = socket->open();
+        if (!error)
+            error = socket->probe(datagram, m_port);
+        // A new one next time.
+        if (error)
+            socket->close();
         return error;
     }
 
-    void receive() {
-        m_socket.async_receive_from(
-            boost::asio::buffer(m_datagram), m_sender,
-            [self = shared_from_this(), socketNumber = m_socketNumber](error_code error, std::size_t size) {
-                self->received(error, size, socketNumber);
-            });
-    }
-
-    void received(error_code error, std::size_t size, std::uint64_t socketNumber) {
-        if (socketNumber != m_socketNumber)
-            return;
-        if (error && !concernsOneDatagram(error)) {
-            tellTrouble(error.message());
-            closeSocket();
-            return;
-        }
-        if (error || !take({m_datagram.data(), size}))
+    void heard(std::string_view datagram, const std::string& from) {
+        if (!take(datagram, from))
             ++m_dropped;
-        receive();
     }
 
     /// False when the datagram is nothing for us.
-    bool take(std::string_view datagram) {
+    bool take(std::string_view datagram, const std::string& from) {
         const auto announcement = Wire::decodeAnnouncement(datagram);
         if (!announcement || announcement->service != m_service ||
             announcement->version != Wire::protocolVersion)
             return false;
-        const auto address = m_sender.address();
-        const bool local = address.is_loopback() ||
-                           std::count(m_ownAddresses.begin(), m_ownAddresses.end(), address.to_string()) > 0;
+        const bool local =
+            boost::asio::ip::make_address_v4(from).is_loopback() || m_ownAddresses.count(from) != 0;
         const CallbackGate::Pass pass(*m_gate);
-        return pass && m_discoverer->announce({announcement->name, address.to_string(), announcement->serial,
+        return pass && m_discoverer->announce({announcement->name, from, announcement->serial,
                                                announcement->uid, announcement->productVendor,
                                                announcement->productName, announcement->productModel, local,
                                                announcement->port, announcement->encrypted},
                                               periodsHeld * m_period);
-    }
-
-    void closeSocket() {
-        ++m_socketNumber;
-        error_code ignored;
-        m_socket.close(ignored);
     }
 
     /// Once until it goes well again; the next probe tries anew.
@@ -225,11 +197,8 @@ private:
     bool m_stopped = false;
     bool m_troubleTold = false;
     boost::asio::steady_timer m_timer;
-    udp::socket m_socket;
-    std::uint64_t m_socketNumber = 0; ///< tells an answer of a socket that was closed since
-    udp::endpoint m_sender;
-    std::array<char, Wire::maximumDatagramSize + 1> m_datagram{};
-    std::vector<std::string> m_ownAddresses;
+    std::map<std::string, std::shared_ptr<ProbeSocket>> m_sockets; ///< by interface address
+    std::set<std::string> m_ownAddresses;
     std::uint64_t m_dropped = 0;
     std::uint64_t m_droppedTold = 0;
     Clock::time_point m_nextSummary;

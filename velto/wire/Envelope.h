@@ -20,8 +20,8 @@ struct Header {
     std::int32_t status = 0; ///< left out by requests and notifications when 0
 };
 
-constexpr std::size_t maximumHeaderSize = 4 * 1024;
-constexpr std::size_t maximumFrameSize = 16 * 1024 * 1024;
+constexpr std::size_t maximumHeaderSize = std::size_t{4} * 1024;
+constexpr std::size_t maximumFrameSize = std::size_t{16} * 1024 * 1024;
 
 /// One text frame: the header as compact JSON, a line feed, then the body verbatim (or nothing).
 /// None when the header (with its line feed) or the frame would exceed its limit, or the type or the text is

@@ -11,8 +11,9 @@ class ICrashHandlerObserver {
 public:
     virtual ~ICrashHandlerObserver() = default;
 
-    /// Called once per process, on the thread that crashed. The process ends when it returns; a second fault
-    /// inside it ends the process at once.
+    /// Called once per process, on the thread that crashed (Windows: on one of the handler's own when the
+    /// stack of that thread is used up). The process ends when it returns; a second fault inside it ends the
+    /// process at once.
     virtual void handleCrash() = 0;
 };
 

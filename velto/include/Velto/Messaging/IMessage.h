@@ -77,7 +77,7 @@ public:
     virtual ~IMessengerObserver() = default;
     virtual void handleConnected() = 0;
     virtual void handleConnectionLost() = 0;
-    /// An attempt to connect has ended without a connection.
+    /// An attempt to connect has failed. One that was dropped or replaced by the caller is not reported.
     virtual void handleNotice() = 0;
     /// The unit answered a request with an error.
     virtual void handleErrorResponse(std::shared_ptr<const IResponse> response);

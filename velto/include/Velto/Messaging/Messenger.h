@@ -47,7 +47,7 @@ public:
     };
 
     /// Units of another service than `serviceName` are ignored. Only `WebSocket` can connect.
-    Messenger(std::vector<std::shared_ptr<DiscoveryStrategyInfo>> strategies, std::string serviceName,
+    Messenger(const std::vector<std::shared_ptr<DiscoveryStrategyInfo>>& strategies, std::string serviceName,
               ITransport::TransportType transportType);
     ~Messenger() override;
     Messenger(const Messenger&) = delete;

@@ -49,7 +49,9 @@ public:
     void clearDiscovered();
 
     /// Takes in one announcement that holds good for `lifetime`, then tells the observers. A second one of
-    /// the same uid replaces the first. False when the list is full.
+    /// the same uid replaces the first. False when the list is full. A unit that is heard at two addresses
+    /// keeps the one it has: what comes from the other is passed over in silence until the first has not been
+    /// heard for two thirds of its lifetime.
     bool announce(Discovered::Values values, Clock::duration lifetime);
 
     bool holds(const std::string& uid) const;
@@ -61,11 +63,13 @@ private:
     struct Entry {
         std::shared_ptr<Discovered> discovered;
         Clock::time_point expires;
-        std::uint64_t heard = 0; ///< grows with each announcement
+        Clock::time_point movableFrom; ///< another address is not believed before
+        std::uint64_t heard = 0;       ///< grows with each announcement
     };
     using Entries = std::list<Entry>;
 
-    bool store(std::shared_ptr<Discovered> discovered, Clock::duration lifetime);
+    enum class Stored { Yes, PassedOver, Full };
+    Stored store(std::shared_ptr<Discovered> discovered, Clock::duration lifetime);
     template <class Condition>
     void removeIf(Condition condition);
 

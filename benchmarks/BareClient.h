@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace Bench {
+
+/// The least that talks to a unit: Beast's own blocking calls, no checks, no queue, no second thread.
+class BareClient {
+public:
+    /// Throws what Beast throws.
+    BareClient(const std::string& address, std::uint16_t port);
+    ~BareClient();
+
+    /// Sends one frame and returns the size of the next one that comes.
+    std::size_t exchange(const std::string& frame);
+
+private:
+    struct Connection;
+    std::unique_ptr<Connection> m_connection;
+};
+
+} // namespace Bench
