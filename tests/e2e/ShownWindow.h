@@ -63,10 +63,18 @@ public:
         prepareUserInterface();
         m_facade = std::make_shared<Facade>(std::string());
         m_components.Init(false);
-        QQmlContext& context = *m_engine->rootContext();
-        context.setContextProperty(QStringLiteral("api"), m_facade.get());
-        context.setContextProperty(QStringLiteral("deviceManager"), m_facade->deviceManager());
-        context.setContextProperty(QStringLiteral("deviceListModel"), m_facade->deviceListModel());
+        const std::pair<const char*, QObject*> published[] = {
+            {"api", m_facade.get()},
+            {"deviceManager", m_facade->deviceManager()},
+            {"deviceListModel", m_facade->deviceListModel()},
+            {"currDevice", m_facade->deviceProxy()},
+            {"seatListModel", m_facade->seatListModel()},
+            {"mediaListModel", m_facade->mediaListModel()},
+            {"detailedStatusModel", m_facade->detailedStatusModel()},
+        };
+        for (const auto& [name, object] : published) {
+            m_engine->rootContext()->setContextProperty(QString::fromLatin1(name), object);
+        }
         m_engine->load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
         m_components.Resume();
         m_facade->start();
