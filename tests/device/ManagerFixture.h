@@ -9,9 +9,11 @@ namespace orvex::Test {
 
 /// A manager whose discoverer is told of units by the test, and whose `Communicator` talks to real ones.
 class ManagerFixture : public CommunicatorFixture {
+public:
+    ~ManagerFixture() override { manager.reset(); }
+
 protected:
     ManagerFixture() { manager->setCommunicator(communicator); }
-    ~ManagerFixture() override { manager.reset(); }
 
     void announce(const RunningUnit& unit) { announce(unit.announced()); }
     void announce(Messaging::Discovered::Values values) {

@@ -12,6 +12,9 @@ namespace {
 
 /// A unit hears everything that the program can say.
 class CatalogueTest : public CommunicatorFixture {
+public:
+    ~CatalogueTest() override { unit.setFrameListener(nullptr); }
+
 protected:
     CatalogueTest() {
         unit.fail(AnswerFault::Drop);
@@ -20,15 +23,13 @@ protected:
             Velto::Wire::DecodedFrame decoded;
             if (Velto::Wire::decodeFrame(frame, decoded) != Velto::Wire::FrameError::None ||
                 decoded.header.kind != Velto::Wire::Kind::Request || decoded.header.number != 1) {
-                m_heard.push_back("no proper request");
+                m_heard.emplace_back("no proper request");
                 return;
             }
             m_heard.push_back(decoded.header.type + " '" + decoded.header.text + "' " +
                               std::string(decoded.body));
         });
     }
-    ~CatalogueTest() override { unit.setFrameListener(nullptr); }
-
     std::vector<std::string> heard() {
         const std::lock_guard lock(m_mutex);
         return m_heard;

@@ -98,6 +98,12 @@ private:
 
 /// The library runs, and a `Communicator` has a messenger without discovery.
 class CommunicatorFixture : public testing::Test {
+public:
+    ~CommunicatorFixture() override {
+        messenger.reset();
+        communicator.reset();
+    }
+
 protected:
     CommunicatorFixture() {
         VeltoExportQAutoDiscoveryComponent();
@@ -105,11 +111,6 @@ protected:
         components.Init(true);
         messenger->connect(3000);
         communicator->setMessenger(messenger);
-    }
-
-    ~CommunicatorFixture() override {
-        messenger.reset();
-        communicator.reset();
     }
 
     static std::shared_ptr<Velto::Messaging::Messenger> makeMessenger() {

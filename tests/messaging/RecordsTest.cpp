@@ -34,25 +34,25 @@ TEST(SeatInfoTest, ShowsTheStateItsCodeStandsFor) {
 TEST(ContentUpdateStateTest, ShowsStateAndProgress) {
     struct Case {
         int stateId;
-        const char* stateName;
         int progressType;
+        const char* stateName;
         const char* progressValue;
         const char* text;
     };
     const Case cases[] = {
-        {10, "idle", 1, "50", ""},
-        {20, "", 0, "50", "Checking for new content"},
-        {25, "", 0, "", "Error checking for new content"},
-        {30, "x", 1, "42", "Downloading content 42%"},
-        {30, "x", 1, "0", "Downloading content..."},
-        {30, "x", 1, "00", "Downloading content 00%"},
-        {35, "", 2, "42", "Error downloading content"},
-        {36, "", 0, "", "Server content not ready"},
-        {40, "", 0, "", "Content install pending"},
-        {50, "", 1, "%1", "Installing content %1%"},
-        {55, "", 0, "", "Error installing content"},
-        {99, "Polishing", 1, "7", "Polishing 7%"},
-        {99, "", 1, "7", "Unknown state"},
+        {10, 1, "idle", "50", ""},
+        {20, 0, "", "50", "Checking for new content"},
+        {25, 0, "", "", "Error checking for new content"},
+        {30, 1, "x", "42", "Downloading content 42%"},
+        {30, 1, "x", "0", "Downloading content..."},
+        {30, 1, "x", "00", "Downloading content 00%"},
+        {35, 2, "", "42", "Error downloading content"},
+        {36, 0, "", "", "Server content not ready"},
+        {40, 0, "", "", "Content install pending"},
+        {50, 1, "", "%1", "Installing content %1%"},
+        {55, 0, "", "", "Error installing content"},
+        {99, 1, "Polishing", "7", "Polishing 7%"},
+        {99, 1, "", "7", "Unknown state"},
     };
     for (const Case& c : cases) {
         ContentUpdateState state;
@@ -99,20 +99,19 @@ TEST(NetworkStatusTest, RendersFlagsNetworkAndInterfaces) {
 TEST(NetworkStatusTest, JudgesAnInterfaceByItsExactNameAndTheFlags) {
     struct Case {
         const char* name;
-        bool online, wifiOnline, hotspotActive;
         int type;
-        bool active;
+        bool online, wifiOnline, hotspotActive, active;
     };
     const Case cases[] = {
-        {"Access Point", true, true, false, 0, false},
-        {"Access Point", false, false, true, 0, true},
-        {"Ethernet", true, false, false, 1, true},
-        {"Ethernet", true, true, false, 1, false},
-        {"Ethernet", false, false, true, 1, false},
-        {"Wi-Fi", false, true, false, 2, true},
-        {"Wi-Fi", true, false, true, 2, false},
-        {"wi-fi", true, true, true, -1, false},
-        {"", true, true, true, -1, false},
+        {"Access Point", 0, true, true, false, false},
+        {"Access Point", 0, false, false, true, true},
+        {"Ethernet", 1, true, false, false, true},
+        {"Ethernet", 1, true, true, false, false},
+        {"Ethernet", 1, false, false, true, false},
+        {"Wi-Fi", 2, false, true, false, true},
+        {"Wi-Fi", 2, true, false, true, false},
+        {"wi-fi", -1, true, true, true, false},
+        {"", -1, true, true, true, false},
     };
     for (const Case& c : cases) {
         const NetworkStatus owner{true, c.online, c.wifiOnline, c.hotspotActive, QString(), {}};
