@@ -41,6 +41,25 @@ TEST_F(MessengerTest, CarriesMessagesBothWaysOverTlsAndInPlain) {
     }
 }
 
+TEST_F(MessengerTest, ReportsNoConnectionThatWasLetGoOfBeforeTheReport) {
+    TestPeer peer(true);
+    messenger->registerResponse("Hold", 1, recorder);
+    choose(peer);
+    ASSERT_TRUE(recorder->hears({"connected"}));
+    std::promise<void> held;
+    std::promise<void> release;
+    recorder->atCall("Hold ", [&] {
+        held.set_value();
+        release.get_future().wait();
+    });
+    peer.send(frame(Wire::Kind::Notification, "Hold"));
+    held.get_future().wait();
+    choose(peer); // would be reported as soon as the callback returns
+    messenger->disconnect();
+    release.set_value();
+    EXPECT_TRUE(recorder->hears({"connected", "Hold ", "lost"}));
+}
+
 TEST_F(MessengerTest, ReleasesTheBodysBufferAsSoonAsSendReturns) {
     TestPeer peer(true);
     choose(peer);
