@@ -5,7 +5,7 @@ packages_build="build-essential cmake ninja-build ccache
   qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev libqt5svg5-dev
   libgtest-dev libgmock-dev"
 packages_run="qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts qml-module-qtquick-controls2
-  qml-module-qtquick-templates2 qml-module-qtgraphicaleffects libqt5svg5 libgl1-mesa-dri
+  qml-module-qtquick-templates2 libqt5svg5 libgl1-mesa-dri
   xvfb xauth imagemagick"
 packages_test="qml-module-qttest procps"
 packages_check="git clang clang-format clang-tidy libclang-rt-14-dev qtdeclarative5-dev-tools libbenchmark-dev"

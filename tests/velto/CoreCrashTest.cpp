@@ -35,9 +35,11 @@ protected:
 #ifdef _WIN32
         return std::system((std::string(CRASHING_PROGRAM) + " " + m_folder.string() + " " + manner).c_str());
 #else
-        // No core files; and the program in place of the shell, so that its own signal is seen.
+        // No core files; no sanitizer's report in place of the system's own end; and the program in place of
+        // the shell, so that its own signal is seen.
         const std::string command =
-            std::string("ulimit -c 0; exec '") + CRASHING_PROGRAM + "' '" + m_folder.string() + "' " + manner;
+            std::string("ulimit -c 0; export ASAN_OPTIONS=handle_segv=0 TSAN_OPTIONS=handle_segv=0; exec '") +
+            CRASHING_PROGRAM + "' '" + m_folder.string() + "' " + manner;
         const int status = std::system(command.c_str());
         EXPECT_TRUE(WIFSIGNALED(status)) << status;
         return WTERMSIG(status);

@@ -21,7 +21,8 @@ namespace fs = std::filesystem;
 using Velto::ApplicationInfo;
 
 __attribute__((no_sanitize("address", "thread", "undefined"))) void touchForeignMemory() {
-    constexpr std::uintptr_t nobodysAddress = 64;
+    // Out of the optimiser's sight, which would refuse to compile what it knows to fault.
+    static volatile std::uintptr_t nobodysAddress = 64;
     *reinterpret_cast<volatile int*>(nobodysAddress) =
         1; // NOLINT(performance-no-int-to-ptr): the fault itself
 }

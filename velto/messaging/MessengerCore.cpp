@@ -197,8 +197,8 @@ void Messenger::Core::perform(const Act::OpenLink& act) {
         return;
     }
     detail::areaLogger(detail::Area::BaseComm)
-        ->info("Connection {}: to {} port {}, {}", act.generation, act.unit.address, act.unit.port,
-               act.unit.encrypted ? "encrypted" : "plain");
+        ->debug("Connection {}: to {} port {}, {}", act.generation, act.unit.address, act.unit.port,
+                act.unit.encrypted ? "encrypted" : "plain");
     const Peer peer{act.unit.address, act.unit.port, act.unit.encrypted,
                     m_discoverer->expectedUid(act.unit.address, act.unit.port)};
     auto link = makeWebSocketLink(m_communication, peer, act.generation, weak_from_this());
@@ -222,12 +222,21 @@ void Messenger::Core::perform(const Act::CloseLink& act) {
         takeLink()->close();
 }
 
+// Whoever let go of the unit while the report was on its way must not hear of it any more: they may be about
+// to take it for the next unit's.
 void Messenger::Core::perform(const Act::ReportConnected&) {
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!m_machine.isConnected())
+            return;
+    }
+    m_connectedTold = true;
     tellObservers([](IMessengerObserver& observer) { observer.handleConnected(); });
 }
 
 void Messenger::Core::perform(const Act::ReportLost&) {
-    tellObservers([](IMessengerObserver& observer) { observer.handleConnectionLost(); });
+    if (std::exchange(m_connectedTold, false))
+        tellObservers([](IMessengerObserver& observer) { observer.handleConnectionLost(); });
 }
 
 void Messenger::Core::perform(const Act::ReportFailedAttempt&) {

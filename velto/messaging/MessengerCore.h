@@ -84,7 +84,9 @@ private:
     std::uint64_t m_linkGeneration = 0;
     std::unordered_map<std::string, std::shared_ptr<IResponseHandler>> m_handlers;
 
-    bool m_undecodableTold = false; ///< communication thread
+    // Of the communication thread.
+    bool m_undecodableTold = false;
+    bool m_connectedTold = false; ///< and not yet lost
 };
 
 } // namespace Velto::Messaging

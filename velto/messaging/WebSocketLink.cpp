@@ -44,9 +44,9 @@ constexpr std::chrono::milliseconds farewellTime{500};
 /// Two of the largest frames, and more messages than a unit answers in a minute.
 constexpr std::size_t maximumQueuedBytes = 2 * Wire::maximumFrameSize;
 constexpr std::size_t maximumQueuedFrames = 1024;
-constexpr std::size_t readSize = 64U * 1024;
+constexpr std::size_t readSize = 65536;
 /// A buffer that one large message made grow is given back.
-constexpr std::size_t keptBufferSize = 1024U * 1024;
+constexpr std::size_t keptBufferSize = 1048576;
 
 /// The frames that wait to be written. Any thread.
 class FrameQueue {

@@ -94,8 +94,8 @@ protected:
     void SetUp() override { ASSERT_EQ(components.Init(true), Component::Result::Success); }
 
     static std::shared_ptr<Messenger>
-    makeMessenger(std::vector<std::shared_ptr<Messenger::DiscoveryStrategyInfo>> strategies = {}) {
-        return std::make_shared<Messenger>(std::move(strategies), "KELM",
+    makeMessenger(const std::vector<std::shared_ptr<Messenger::DiscoveryStrategyInfo>>& strategies = {}) {
+        return std::make_shared<Messenger>(strategies, "KELM",
                                            Messaging::ITransport::TransportType::WebSocket);
     }
 

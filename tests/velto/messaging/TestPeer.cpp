@@ -37,6 +37,11 @@ using namespace std::chrono_literals;
 
 constexpr auto tricklePeriod = 50ms;
 
+const Wire::Identity& commonIdentity() {
+    static const auto identity = Wire::Identity::generate("test peer");
+    return identity;
+}
+
 /// What a peer does with raw bytes once the connection stands; the first byte says "text, last fragment".
 std::string rawBytes(Manner manner) {
     switch (manner) {
@@ -56,10 +61,10 @@ std::string rawBytes(Manner manner) {
 
 class TestPeer::Server {
 public:
-    Server(bool encrypted, Manner manner, std::uint16_t port)
+    Server(bool encrypted, Manner manner, std::uint16_t port, const Wire::Identity& identity)
         : m_encrypted(encrypted)
         , m_manner(manner)
-        , m_identity(Wire::Identity::generate("test peer"))
+        , m_identity(identity)
         , m_tls(asio::ssl::context::tls_server)
         , m_acceptor(m_context, tcp::endpoint(asio::ip::address_v4::loopback(), port)) {
         m_identity.useIn(m_tls.native_handle());
@@ -301,8 +306,16 @@ void TestPeer::Server::take(tcp::socket socket) {
     m_connections.back()->start();
 }
 
-TestPeer::TestPeer(bool encrypted, Manner manner, std::uint16_t port)
-    : m_server(std::make_unique<Server>(encrypted, manner, port)) {}
+TestPeer::TestPeer(bool encrypted, Manner manner)
+    : TestPeer(std::make_unique<Server>(encrypted, manner, std::uint16_t{0}, commonIdentity())) {}
+
+TestPeer::TestPeer(std::unique_ptr<Server> server)
+    : m_server(std::move(server)) {}
+
+std::unique_ptr<TestPeer> TestPeer::impostorAt(std::uint16_t port) {
+    auto server = std::make_unique<Server>(true, Manner::Serve, port, Wire::Identity::generate("impostor"));
+    return std::unique_ptr<TestPeer>(new TestPeer(std::move(server)));
+}
 
 TestPeer::~TestPeer() = default;
 

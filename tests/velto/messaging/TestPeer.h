@@ -35,7 +35,10 @@ enum class Manner {
 /// badly as wanted. Every connection is treated in the manner set when it was taken.
 class TestPeer {
 public:
-    explicit TestPeer(bool encrypted, Manner manner = Manner::Serve, std::uint16_t port = 0);
+    /// All have the same key: this process remembers keys by port, and the system gives ports out again.
+    explicit TestPeer(bool encrypted, Manner manner = Manner::Serve);
+    /// One with a key of its own, at a port where another has been.
+    static std::unique_ptr<TestPeer> impostorAt(std::uint16_t port);
     ~TestPeer();
     TestPeer(const TestPeer&) = delete;
     TestPeer& operator=(const TestPeer&) = delete;
@@ -55,6 +58,7 @@ public:
 
 private:
     class Server;
+    explicit TestPeer(std::unique_ptr<Server> server);
     std::unique_ptr<Server> m_server;
 };
 

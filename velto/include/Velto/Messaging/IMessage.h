@@ -47,9 +47,9 @@ class IResponse : public IMessage {
 public:
     enum class StatusType {
         Ok = 0,
-        Refused = 1,      ///< the unit understood and will not
-        NotSupported = 2, ///< the unit does not know the message
-        Malformed = 3,    ///< the unit could not read the message
+        NotSupported = 1, ///< the unit does not know the message
+        Malformed = 2,    ///< the unit could not read the message
+        Refused = 3,      ///< the unit understood and will not
         Failed = 4,       ///< the unit tried and failed
     };
 
