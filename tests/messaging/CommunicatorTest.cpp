@@ -214,9 +214,13 @@ TEST_F(CommunicatorTest, AnEndOnItsWayIsNotTheNextRequestsEnd) {
 
 TEST_F(CommunicatorTest, ATimeOutBehindTheLastAnswerIsNone) {
     connectToUnit();
-    QSignalSpy internal(communicator.get(), &Communicator::requestCompleteInternal);
+    // Told of the end after the end itself was queued: connections are served in the order they were made.
+    std::atomic<bool> onItsWay{false};
+    QObject::connect(
+        communicator.get(), &Communicator::requestCompleteInternal, communicator.get(),
+        [&onItsWay] { onItsWay = true; }, Qt::DirectConnection);
     communicator->startRequest(device, listed, nullptr, 20000);
-    ASSERT_TRUE(eventuallyElsewhere([&] { return !internal.isEmpty(); }));
+    ASSERT_TRUE(eventuallyElsewhere([&] { return onItsWay.load(); }));
     QTimerEvent late(communicator->startTimer(patience));
     QCoreApplication::sendEvent(communicator.get(), &late);
     EXPECT_TRUE(eventually([&] { return !ended.isEmpty(); }));
