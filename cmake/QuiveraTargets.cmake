@@ -33,6 +33,15 @@ function(quivera_add_library name)
   target_link_libraries(${name} PRIVATE quivera_flags PUBLIC ${ARG_LIBS})
 endfunction()
 
+# Every test stays on the loopback interface and draws without a display. Qt is not built with the sanitizers: what
+# they can see of its insides is not held against us.
+set(quivera_test_environment
+  VELTO_DISCOVERY_INTERFACES=lo
+  QT_QPA_PLATFORM=offscreen
+  QT_QUICK_BACKEND=software
+  LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leak-suppressions.txt:print_suppressions=0
+  TSAN_OPTIONS=ignore_noninstrumented_modules=1:suppressions=${PROJECT_SOURCE_DIR}/cmake/thread-suppressions.txt:print_suppressions=0)
+
 # quivera_add_test(name SOURCES… LIBS… [LABELS…] [TIMEOUT seconds]): a GoogleTest program run by ctest as one test.
 function(quivera_add_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
@@ -44,5 +53,5 @@ function(quivera_add_test name)
   target_link_libraries(${name} PRIVATE quivera_flags ${ARG_LIBS})
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT ${ARG_TIMEOUT}
-    ENVIRONMENT "VELTO_DISCOVERY_INTERFACES=lo;QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leak-suppressions.txt:print_suppressions=0")
+    ENVIRONMENT "${quivera_test_environment}")
 endfunction()

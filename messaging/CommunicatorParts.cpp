@@ -16,7 +16,8 @@ namespace {
 using Parts = Communicator::Parts;
 
 // Which message asks for which fields, in the order in which the messages go out. A field that is not here is
-// answered without being asked for: online and contacted by the connection, the Wi-Fi result by the setting itself.
+// answered without being asked for: online and contacted by the connection, the Wi-Fi result by the setting
+// itself.
 struct GetStep {
     std::uint32_t fields;
     void (*send)(Parts& parts);
@@ -32,7 +33,9 @@ void sendByHandler(Parts& parts) {
     (parts.*Part)->sendRequest(parts.messenger);
 }
 
-void sendFresh(Parts& parts, const char* type) { parts.messenger.send(makeGetMessage(type)); }
+void sendFresh(Parts& parts, const char* type) {
+    parts.messenger.send(makeGetMessage(type));
+}
 
 constexpr GetStep getSteps[] = {
     {DeviceField::mask({DeviceField::Name}), &sendPrebuilt<&Parts::getName>},
@@ -40,7 +43,8 @@ constexpr GetStep getSteps[] = {
     {DeviceField::mask({DeviceField::LibraryUpdateTime}), &sendPrebuilt<&Parts::getUpdate>},
     {DeviceField::mask({DeviceField::Network}), [](Parts& p) { p.connectionWizard->triggerNetworkState(); }},
     {DeviceField::mask({DeviceField::WiFiPoints}), [](Parts& p) { p.connectionWizard->triggerWifiList(); }},
-    {DeviceField::mask({DeviceField::AdaptiveGamingProfile}), &sendPrebuilt<&Parts::getAdaptiveGamingProfile>},
+    {DeviceField::mask({DeviceField::AdaptiveGamingProfile}),
+     &sendPrebuilt<&Parts::getAdaptiveGamingProfile>},
     {DeviceField::mask({DeviceField::SoftwareHealth}), &sendPrebuilt<&Parts::getSoftwareHealth>},
     {DeviceField::mask({DeviceField::CaptureDevices}), [](Parts& p) { sendFresh(p, "GetCaptureDevices"); }},
     {DeviceField::mask({DeviceField::AdaptiveAudioParameters}),
@@ -49,8 +53,8 @@ constexpr GetStep getSteps[] = {
      [](Parts& p) { sendFresh(p, "GetAutomaticVolumeControl"); }},
     {DeviceField::mask({DeviceField::CaptureVolume}), [](Parts& p) { sendFresh(p, "GetCaptureVolume"); }},
     {DeviceField::mask({DeviceField::ExperienceModes}), [](Parts& p) { sendFresh(p, "GetExperienceModes"); }},
-    {DeviceField::mask({DeviceField::MotionCodeStatus, DeviceField::AudioSourceStatus, DeviceField::MediaTitle,
-                        DeviceField::MediaProgress}),
+    {DeviceField::mask({DeviceField::MotionCodeStatus, DeviceField::AudioSourceStatus,
+                        DeviceField::MediaTitle, DeviceField::MediaProgress}),
      &sendPrebuilt<&Parts::getMediaStatus>},
     {DeviceField::mask({DeviceField::MotionDelay}), &sendPrebuilt<&Parts::getMotionDelay>},
     {DeviceField::mask({DeviceField::RecognitionTolerance}), &sendPrebuilt<&Parts::getRecognitionTolerance>},
@@ -78,10 +82,8 @@ const Request& as(const DeviceUpdateRequest& request) {
 using Request = DeviceUpdateRequest;
 
 constexpr SetAction setActions[] = {
-    {Request::SetName,
-     [](Parts& p, const Request& r, const DeviceInfo&) {
-         p.setName->triggerSendKelmName(as<SetNameRequest>(r).name);
-     }},
+    {Request::SetName, [](Parts& p, const Request& r,
+                          const DeviceInfo&) { p.setName->triggerSendKelmName(as<SetNameRequest>(r).name); }},
     {Request::SetWiFiLogin,
      [](Parts& p, const Request& r, const DeviceInfo&) {
          const auto& login = as<SetWiFiLoginRequest>(r);
@@ -91,7 +93,8 @@ constexpr SetAction setActions[] = {
      [](Parts& p, const Request&, const DeviceInfo&) { p.connectionWizard->requestHotspotActivation(); }},
     {Request::SetCaptureDevice,
      [](Parts& p, const Request& r, const DeviceInfo&) {
-         p.setCaptureDevice->triggerSendCaptureDevice(as<SetCaptureDeviceRequest>(r).identification.toStdString());
+         p.setCaptureDevice->triggerSendCaptureDevice(
+             as<SetCaptureDeviceRequest>(r).identification.toStdString());
      }},
     {Request::SetAdaptiveAudioParameters,
      [](Parts& p, const Request& r, const DeviceInfo&) {
@@ -127,11 +130,14 @@ constexpr SetAction setActions[] = {
              p.setSeatSetting->triggerSendSeatSetting(*seat);
          }
      }},
-    {Request::SetContentUpdate, [](Parts& p, const Request&,
-                                   const DeviceInfo&) { p.requestContentUpdate->triggerRequestContentUpdate(); }},
+    {Request::SetContentUpdate,
+     [](Parts& p, const Request&, const DeviceInfo&) {
+         p.requestContentUpdate->triggerRequestContentUpdate();
+     }},
 };
 
-// What becomes of the values that handlers report under a name. Where the value is empty, the handler keeps it.
+// What becomes of the values that handlers report under a name. Where the value is empty, the handler keeps
+// it.
 struct KeyedUpdate {
     const char* key;
     Parts::Update store;
@@ -154,22 +160,20 @@ constexpr KeyedUpdate keyedUpdates[] = {
      [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setWiFiPoints(wiFiListOf(v.toMap())); }},
     {"wifiSettings",
      [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setWiFiSetupResult(v.toBool()); }},
-    {"getCaptureDevices",
-     [](const Parts& p, DeviceInfo& unit, const QVariant&) {
-         unit.setCaptureDevices(p.captureDevices->devices());
-     }},
+    {"getCaptureDevices", [](const Parts& p, DeviceInfo& unit,
+                             const QVariant&) { unit.setCaptureDevices(p.captureDevices->devices()); }},
     {"getAdaptiveAudioParameters",
      [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setAdaptiveAudioParameters(v.toInt()); }},
     {"getAutomaticVolumeControl",
      [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setAutomaticVolumeControl(v.toBool()); }},
-    {"getCaptureVolume",
-     [](const Parts& p, DeviceInfo& unit, const QVariant&) { unit.setCaptureVolume(p.captureVolume->volume()); }},
-    {"getExperienceModes",
-     [](const Parts& p, DeviceInfo& unit, const QVariant&) {
-         unit.setExperienceModes(p.experienceModes->modes());
-     }},
-    {"mediaTitle", [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setMediaTitle(v.toString()); }},
-    {"motionDelay", [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setMotionDelay(v.toInt()); }},
+    {"getCaptureVolume", [](const Parts& p, DeviceInfo& unit,
+                            const QVariant&) { unit.setCaptureVolume(p.captureVolume->volume()); }},
+    {"getExperienceModes", [](const Parts& p, DeviceInfo& unit,
+                              const QVariant&) { unit.setExperienceModes(p.experienceModes->modes()); }},
+    {"mediaTitle",
+     [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setMediaTitle(v.toString()); }},
+    {"motionDelay",
+     [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setMotionDelay(v.toInt()); }},
     {"recognitionTolerance",
      [](const Parts&, DeviceInfo& unit, const QVariant& v) { unit.setRecognitionTolerance(v.toInt()); }},
     {"GetSeatStatus",
@@ -247,7 +251,8 @@ void Communicator::Parts::connectTo(Communicator& communicator) {
            &Communicator::genericResponseHandler);
     direct(wifiList, &GetWifiListHandler::wifiNetworkStatusListChangedSignal,
            &Communicator::genericResponseHandler);
-    direct(wifiSetting, &WifiSettingHandler::wifiSettingResponseReceived, &Communicator::genericResponseHandler);
+    direct(wifiSetting, &WifiSettingHandler::wifiSettingResponseReceived,
+           &Communicator::genericResponseHandler);
     direct(mediaStatus, &GetMediaStatusNotificationHandler::updateMediaInfoTitleLabelSignal,
            &Communicator::genericResponseHandler);
 
@@ -261,7 +266,8 @@ void Communicator::Parts::connectTo(Communicator& communicator) {
            &Communicator::softwareVersionReceived);
     direct(upgradeAndUpdate, &GetUpgradeAndUpdateNotificationHandler::lastUpdateTimestampReceived,
            &Communicator::lastUpdateTimestampReceived);
-    direct(networkState, &GetKELMNetworkStateHandler::networkStatusChanged, &Communicator::onNetworkStatusChanged);
+    direct(networkState, &GetKELMNetworkStateHandler::networkStatusChanged,
+           &Communicator::onNetworkStatusChanged);
     direct(adaptiveGamingProfile,
            &GetAdaptiveGamingSelectedProfileHandler::adaptiveGamingSelectedProfileReceivedSignal,
            &Communicator::onAdaptiveGamingSelectedProfileChanged);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "messaging/Communicator.h"
-
 #include "messaging/handlers/FirstIntegerHandler.h"
 #include "messaging/handlers/GetAdaptiveAudioParametersHandler.h"
 #include "messaging/handlers/GetAdaptiveGamingSelectedProfileHandler.h"
@@ -36,8 +35,8 @@
 
 namespace orvex {
 
-/// Everything the `Communicator` says and hears by: one object for each sender and handler, and the tables that
-/// tell which of them serves which field, request and key. Made once, never changed.
+/// Everything the `Communicator` says and hears by: one object for each sender and handler, and the tables
+/// that tell which of them serves which field, request and key. Made once, never changed.
 struct Communicator::Parts {
     explicit Parts(Velto::Messaging::Messenger& messenger);
 

@@ -4,8 +4,8 @@
 
 namespace Velto::Messaging {
 
-/// Reads a body that holds one integer: that of its first member when it has the right name, else 0. The member's
-/// name is the key it is reported under.
+/// Reads a body that holds one integer: that of its first member when it has the right name, else 0. The
+/// member's name is the key it is reported under.
 class FirstIntegerHandler : public ValueHandler {
 public:
     void handleResponse(std::shared_ptr<const IResponse> response) override;

@@ -12,7 +12,8 @@ struct Parameters {
     int preMixType = 0;
 };
 
-constexpr Body::Member<Parameters> parameterMembers[] = {{"preMixType", &Body::field<&Parameters::preMixType>}};
+constexpr Body::Member<Parameters> parameterMembers[] = {
+    {"preMixType", &Body::field<&Parameters::preMixType>}};
 
 } // namespace
 

@@ -17,8 +17,8 @@ public:
 
 signals:
     /// None for a body that holds nothing; an empty profile when none is selected.
-    void adaptiveGamingSelectedProfileReceivedSignal(
-        QSharedPointer<orvex::AdaptiveGamingSelectedProfile> profile);
+    void
+    adaptiveGamingSelectedProfileReceivedSignal(QSharedPointer<orvex::AdaptiveGamingSelectedProfile> profile);
 };
 
 } // namespace Velto::Messaging

@@ -7,8 +7,8 @@
 
 namespace Velto::Messaging {
 
-/// Reads whether the unit controls the level of its audio source by itself. Runs, and emits, on the messenger's
-/// thread.
+/// Reads whether the unit controls the level of its audio source by itself. Runs, and emits, on the
+/// messenger's thread.
 class GetAutomaticVolumeControlHandler : public QObject, public IResponseHandler {
     Q_OBJECT
 

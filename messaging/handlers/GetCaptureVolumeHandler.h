@@ -10,7 +10,8 @@
 
 namespace Velto::Messaging {
 
-/// Reads the level of the audio source and its bounds, and keeps them. Runs, and emits, on the messenger's thread.
+/// Reads the level of the audio source and its bounds, and keeps them. Runs, and emits, on the messenger's
+/// thread.
 class GetCaptureVolumeHandler : public QObject, public IResponseHandler {
     Q_OBJECT
 

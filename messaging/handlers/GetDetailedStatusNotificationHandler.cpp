@@ -30,11 +30,13 @@ QString numberText(const Body::Value& number) {
     if (number.IsInt64()) {
         return QString::number(number.GetInt64());
     }
-    return number.IsUint64() ? QString::number(number.GetUint64()) : QString::number(number.GetDouble(), 'f', 2);
+    return number.IsUint64() ? QString::number(number.GetUint64())
+                             : QString::number(number.GetDouble(), 'f', 2);
 }
 
 // Recursion is bounded: a body's nesting is.
-std::shared_ptr<ModuleInfo> parseModule(const Body::Value& name, const Body::Value& object) { // NOLINT(misc-no-recursion)
+std::shared_ptr<ModuleInfo> parseModule(const Body::Value& name,
+                                        const Body::Value& object) { // NOLINT(misc-no-recursion)
     auto module = std::make_shared<ModuleInfo>();
     module->name = Body::toQString(name);
     for (const auto& member : object.GetObject()) {
@@ -62,7 +64,9 @@ void GetDetailedStatusNotificationHandler::registerWith(Messenger& messenger) {
     messenger.registerResponse(messageType, messageNumber, shared_from_this());
 }
 
-void GetDetailedStatusNotificationHandler::sendRequest(Messenger& messenger) const { messenger.send(m_request); }
+void GetDetailedStatusNotificationHandler::sendRequest(Messenger& messenger) const {
+    messenger.send(m_request);
+}
 
 void GetDetailedStatusNotificationHandler::handleResponse(std::shared_ptr<const IResponse> response) {
     if (response->getMessageType() != messageType) {

@@ -49,7 +49,9 @@ void GetMediaListNotificationHandler::registerWith(Messenger& messenger) {
     messenger.registerResponse(messageType, messageNumber, shared_from_this());
 }
 
-void GetMediaListNotificationHandler::sendRequest(Messenger& messenger) const { messenger.send(m_request); }
+void GetMediaListNotificationHandler::sendRequest(Messenger& messenger) const {
+    messenger.send(m_request);
+}
 
 void GetMediaListNotificationHandler::handleResponse(std::shared_ptr<const IResponse> response) {
     if (response->getMessageType() != messageType) {

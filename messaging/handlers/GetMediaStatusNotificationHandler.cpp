@@ -19,10 +19,10 @@ struct Code {
 
 // The states the unit names; 10 is not among them.
 constexpr Code audioCodes[] = {
-    {"initializing", 0},   {"configuring", 1},     {"configured", 2},     {"starting", 3},   {"started", 4},
-    {"stopping", 5},       {"stopped", 6},         {"listening", 7},      {"silence_detected", 8},
-    {"ident_success", 9},  {"ident_failure", 11},  {"lost_audio", 12},    {"program_error", 13},
-    {"shutting_down", 14}, {"shutdown", 15},
+    {"initializing", 0},     {"configuring", 1},    {"configured", 2},     {"starting", 3},
+    {"started", 4},          {"stopping", 5},       {"stopped", 6},        {"listening", 7},
+    {"silence_detected", 8}, {"ident_success", 9},  {"ident_failure", 11}, {"lost_audio", 12},
+    {"program_error", 13},   {"shutting_down", 14}, {"shutdown", 15},
 };
 
 constexpr Code motionCodes[] = {{"listening", 0}, {"searching", 1}, {"available", 2}, {"not_available", 3}};

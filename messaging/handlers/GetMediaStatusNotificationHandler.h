@@ -10,8 +10,8 @@
 
 namespace Velto::Messaging {
 
-/// Reads what the unit hears and plays. Runs, and emits, on the messenger's thread. Remembers the last state of the
-/// audio capture, so that a source once detected is not lost by a late report of the capture's start.
+/// Reads what the unit hears and plays. Runs, and emits, on the messenger's thread. Remembers the last state
+/// of the audio capture, so that a source once detected is not lost by a late report of the capture's start.
 class GetMediaStatusNotificationHandler : public QObject, public IResponseHandler {
     Q_OBJECT
 

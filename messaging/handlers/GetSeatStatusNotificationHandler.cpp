@@ -19,7 +19,9 @@ namespace {
 constexpr auto messageType = "GetSeatStatus";
 
 /// To the nearest integer, halves upward (also below zero).
-double rounded(double value) { return std::floor(value + 0.5); }
+double rounded(double value) {
+    return std::floor(value + 0.5);
+}
 
 template <double SeatInfo::*Level>
 void readLevel(SeatInfo& seat, const Body::Value& value) {
@@ -75,7 +77,9 @@ constexpr Body::Member<SeatStatusList> bodyMembers[] = {{"seat", &readSeats}};
 GetSeatStatusNotificationHandler::GetSeatStatusNotificationHandler()
     : m_request(makeGetMessage(messageType)) {}
 
-void GetSeatStatusNotificationHandler::sendRequest(Messenger& messenger) const { messenger.send(m_request); }
+void GetSeatStatusNotificationHandler::sendRequest(Messenger& messenger) const {
+    messenger.send(m_request);
+}
 
 void GetSeatStatusNotificationHandler::handleResponse(std::shared_ptr<const IResponse> response) {
     if (response->getMessageType() != messageType) {
@@ -83,7 +87,8 @@ void GetSeatStatusNotificationHandler::handleResponse(std::shared_ptr<const IRes
     }
     SeatStatusList seats;
     Body::readMembers(*BodyJSONParser::parse(response), seats, bodyMembers);
-    std::stable_sort(seats.begin(), seats.end(), [](const auto& a, const auto& b) { return a->index < b->index; });
+    std::stable_sort(seats.begin(), seats.end(),
+                     [](const auto& a, const auto& b) { return a->index < b->index; });
     m_seats.replace(std::move(seats));
     valueReceived(QString::fromLatin1(messageType), QVariant());
 }

@@ -8,7 +8,8 @@ namespace Velto::Messaging {
 
 void SetSeatSettingSender::triggerSendSeatSetting(const orvex::SeatInfo& seat) {
     if (!std::isfinite(seat.motion) || !std::isfinite(seat.vibration)) {
-        orvex::programLog()->error("SetSeatSetting: a level of seat {} is no number, nothing is sent", seat.index);
+        orvex::programLog()->error("SetSeatSetting: a level of seat {} is no number, nothing is sent",
+                                   seat.index);
         return;
     }
     sendObject("SetSeatSetting", [&seat](Writer& writer) {

@@ -262,7 +262,8 @@ struct PortHolder::Impl {
     asio::ip::udp::socket socket{context, {asio::ip::address_v4::any(), 0}};
 };
 
-PortHolder::PortHolder() : m_impl(std::make_unique<Impl>()) {}
+PortHolder::PortHolder()
+    : m_impl(std::make_unique<Impl>()) {}
 PortHolder::~PortHolder() = default;
 
 std::uint16_t PortHolder::port() const {
