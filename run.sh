@@ -60,8 +60,8 @@ fail() {
 
 # wait_for FILE PATTERN COUNT SECONDS PROCESS: until that many lines match; fails early when the process ends.
 wait_for() {
-    local deadline=$((SECONDS + $4))
-    until [ "$(grep -cE "$2" "$1" 2>/dev/null || true)" -ge "$3" ]; do
+    local deadline=$((SECONDS + $4)) matching
+    until matching=$(grep -cE "$2" "$1" 2>/dev/null) && [ "$matching" -ge "$3" ]; do
         kill -0 "$5" 2>/dev/null || return 1
         [ $SECONDS -lt $deadline ] || return 1
         sleep 0.2
