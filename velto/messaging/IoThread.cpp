@@ -1,5 +1,6 @@
 #include "messaging/IoThread.h"
 
+#include "core/AlternateStack.h"
 #include "core/Areas.h"
 
 #include <boost/asio/executor_work_guard.hpp>
@@ -42,6 +43,7 @@ void IoThread::post(std::function<void()> work) {
 }
 
 void IoThread::run() {
+    const detail::AlternateStack stackForCrashes;
     const auto keepRunning = boost::asio::make_work_guard(*m_context);
     while (!m_context->stopped()) {
         try {
