@@ -79,7 +79,7 @@ struct DiscoveryResponder::Impl : std::enable_shared_from_this<DiscoveryResponde
     std::string problem;
     std::vector<std::weak_ptr<Announcer>> units;
     udp::endpoint sender;
-    std::array<char, Velto::Wire::maximumDatagramSize + 1> datagram{};
+    std::array<char, Velto::Wire::receiveBufferSize> datagram{};
     std::set<std::string> remembered;
     std::deque<std::string> rememberedInOrder;
     std::multimap<Clock::time_point, PendingAnswer> pending;

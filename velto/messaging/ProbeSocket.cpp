@@ -13,10 +13,9 @@ namespace {
 using boost::asio::ip::make_address_v4;
 using boost::system::error_code;
 
-/// Errors that concern one datagram, not the socket: it was too long, or one of ours found nobody listening.
+/// Errors that concern one datagram, not the socket: one of ours found nobody listening.
 bool concernsOneDatagram(error_code error) {
-    return error == boost::asio::error::message_size || error == boost::asio::error::connection_reset ||
-           error == boost::asio::error::connection_refused;
+    return error == boost::asio::error::connection_reset || error == boost::asio::error::connection_refused;
 }
 
 } // namespace
@@ -80,10 +79,8 @@ void ProbeSocket::received(error_code error, std::size_t size) {
         close();
         return;
     }
-    // A datagram cut off by the system (Windows tells so as an error) counts with the size of the buffer.
-    const bool tooLong = error == boost::asio::error::message_size;
-    if (!error || tooLong)
-        m_heard({m_datagram.data(), tooLong ? m_datagram.size() : size}, m_sender.address().to_string());
+    if (!error)
+        m_heard({m_datagram.data(), size}, m_sender.address().to_string());
     if (isOpen())
         receive();
 }

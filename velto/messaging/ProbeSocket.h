@@ -49,7 +49,7 @@ private:
     Udp::socket m_socket;
     Udp::endpoint m_sender;
     /// One byte more than an announcement has, to tell a larger one.
-    std::array<char, Wire::maximumDatagramSize + 1> m_datagram{};
+    std::array<char, Wire::receiveBufferSize> m_datagram{};
 };
 
 } // namespace Velto::Messaging
