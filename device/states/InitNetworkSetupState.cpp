@@ -47,7 +47,8 @@ void InitNetworkSetupState::onTimer() {
 /// The next unit, after the one asked last, that answers but has not told how it is connected.
 std::shared_ptr<DeviceInfo> InitNetworkSetupState::nextToAsk() const {
     const auto count = devices().size();
-    const auto start = static_cast<std::size_t>(positionOf(m_asked) + 1);
+    const int next = positionOf(m_asked) + 1;
+    const auto start = static_cast<std::size_t>(next);
     for (std::size_t step = 0; step < count; ++step) {
         const auto& unit = devices()[(start + step) % count];
         if (unit->isOnline() && !unit->isFieldValid(DeviceField::Network)) {
