@@ -15,7 +15,7 @@ constexpr int protocolVersion = 1;
 constexpr std::size_t maximumDatagramSize = 1400;
 /// More than UDP can carry. Nothing is ever cut off on the way into such a buffer; systems differ too much in
 /// how they tell that something was.
-constexpr std::size_t receiveBufferSize = 64 * 1024;
+constexpr std::size_t receiveBufferSize = 65536;
 
 /// What a unit says of itself: the answer to a probe, and the document at GET /identity.
 struct Announcement {
