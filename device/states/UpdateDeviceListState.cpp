@@ -45,7 +45,8 @@ void UpdateDeviceListState::onTimer() {
     requestFields(m_lastPolled, listedFields, pollTimeout);
 }
 
-/// Of a list that is not empty: the first unit after the one polled last of which something is still unknown, else simply the next one.
+/// Of a list that is not empty: the first unit after the one polled last of which something is still unknown,
+/// else simply the next one.
 std::shared_ptr<DeviceInfo> UpdateDeviceListState::nextToPoll() const {
     const auto count = devices().size();
     const int last = positionOf(m_lastPolled);
