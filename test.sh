@@ -26,4 +26,4 @@ require $packages_build $packages_run $packages_test
 
 cmake --preset "$preset"
 cmake --build --preset "$preset"
-ctest --preset "$preset" "$@"
+ctest --preset "$preset" -j2 "$@"
