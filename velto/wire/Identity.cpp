@@ -14,8 +14,7 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
+#include <optional>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
@@ -151,12 +150,11 @@ struct Identity::Keys {
     }
 
     static std::shared_ptr<const Keys> load(const fs::path& path) {
-        std::ifstream file(path, std::ios::binary);
-        const std::string pem{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-        if (!file)
+        const std::optional<std::string> pem = readSharedFile(path);
+        if (!pem)
             throw std::runtime_error("cannot read the key file " + path.string());
         try {
-            return fromPem(pem);
+            return fromPem(*pem);
         } catch (const std::runtime_error& error) {
             throw std::runtime_error("the key file " + path.string() + " is of no use: " + error.what());
         }

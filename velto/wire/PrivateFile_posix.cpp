@@ -5,6 +5,8 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <fstream>
+#include <iterator>
 
 namespace Velto::Wire {
 
@@ -38,6 +40,13 @@ std::error_code createPrivateFile(const std::filesystem::path& path, std::string
     if (error)
         ::unlink(path.c_str());
     return error;
+}
+
+std::optional<std::string> readSharedFile(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        return std::nullopt;
+    return std::string{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 } // namespace Velto::Wire

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <array>
+
 namespace Velto::Wire {
 
 namespace {
@@ -33,6 +35,25 @@ std::error_code createPrivateFile(const std::filesystem::path& path, std::string
     if (error)
         DeleteFileW(path.c_str());
     return error;
+}
+
+std::optional<std::string> readSharedFile(const std::filesystem::path& path) {
+    const HANDLE file =
+        CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return std::nullopt;
+    std::string content;
+    std::array<char, 4096> chunk{};
+    DWORD size = 0;
+    BOOL done = TRUE;
+    while ((done = ReadFile(file, chunk.data(), static_cast<DWORD>(chunk.size()), &size, nullptr)) &&
+           size > 0)
+        content.append(chunk.data(), size);
+    CloseHandle(file);
+    if (!done)
+        return std::nullopt;
+    return content;
 }
 
 } // namespace Velto::Wire
