@@ -1,0 +1,6 @@
+import QtQuick 2.15
+import "."
+
+Rectangle {
+    color: Style.background
+}
