@@ -105,7 +105,8 @@ public:
     }
 
 protected:
-    CommunicatorFixture() {
+    explicit CommunicatorFixture(TimeSource& time = TimeSource::system())
+        : communicator(std::make_shared<Communicator>(time)) {
         VeltoExportQAutoDiscoveryComponent();
         VeltoExportZCommComponent();
         components.Init(true);
@@ -144,7 +145,7 @@ protected:
     Simulator::SimulatorHost host{{false, 0}};
     Velto::ComponentConfigurator components;
     std::shared_ptr<Velto::Messaging::Messenger> messenger = makeMessenger();
-    std::shared_ptr<Communicator> communicator = std::make_shared<Communicator>();
+    std::shared_ptr<Communicator> communicator;
     QSignalSpy ended{communicator.get(), &Communicator::requestComplete};
 };
 
