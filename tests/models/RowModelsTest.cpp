@@ -2,7 +2,8 @@
 #include "messaging/records/MediaList.h"
 #include "models/DetailedStatusModel.h"
 #include "models/MediaListModel.h"
-#include "tests/models/SelectedUnitFixture.h"
+#include "tests/device/SelectedUnitFixture.h"
+#include "tests/models/Shadow.h"
 
 #include <random>
 

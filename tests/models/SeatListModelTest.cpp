@@ -1,6 +1,7 @@
 #include "models/SeatListModel.h"
 
-#include "tests/models/SelectedUnitFixture.h"
+#include "tests/device/SelectedUnitFixture.h"
+#include "tests/models/Shadow.h"
 
 namespace orvex::Test {
 namespace {

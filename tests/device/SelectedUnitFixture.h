@@ -2,17 +2,17 @@
 
 #include "device/DeviceInfo.h"
 #include "tests/device/ManagerFixture.h"
-#include "tests/models/Shadow.h"
 
 namespace orvex::Test {
 
 /// Two listed units that are not there: what they have said is what the test puts into their records.
-class SelectedUnitFixture : public ManagerFixture {
+class SelectedUnitFixture : public TimedManagerFixture {
 protected:
     SelectedUnitFixture() {
         announce(absent("1", "A"));
         announce(absent("2", "B"));
-        EXPECT_TRUE(eventually([&] { return manager->deviceCount() == 2; }));
+        pass(800);
+        EXPECT_EQ(manager->deviceCount(), 2);
         manager->goIdle();
         communicator->cancelRequest();
         first = manager->deviceAt(0);
