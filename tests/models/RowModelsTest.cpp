@@ -2,6 +2,7 @@
 #include "messaging/records/MediaList.h"
 #include "models/DetailedStatusModel.h"
 #include "models/MediaListModel.h"
+#include "models/MediaListProxy.h"
 #include "tests/device/SelectedUnitFixture.h"
 #include "tests/models/Shadow.h"
 
@@ -153,6 +154,39 @@ TEST_F(MediaListModelTest, FollowsAnySequenceOfLists) {
         ASSERT_TRUE(shadow.isTrue()) << step;
         ASSERT_EQ(model.rowCount(), letters.size());
     }
+}
+
+TEST_F(MediaListModelTest, TheSortedAndSearchedListFollowsAnySequenceOfLists) {
+    MediaListProxy proxy;
+    proxy.setSourceModel(&model);
+    proxy.setSortPasses({{MediaListModel::TitleRole, Qt::DescendingOrder}});
+    const QAbstractItemModelTester proxyTester(&proxy, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const Shadow proxyShadow(proxy);
+    manager->selectDevice(0);
+    std::mt19937 random(11); // NOLINT(bugprone-random-generator-seed): the same lists every time
+    const char* const filters[] = {"", "a", "^[BC]$", "z", "("};
+    for (int step = 0; step < 300; ++step) {
+        QString letters;
+        for (unsigned left = random() % 12; left > 0; --left) {
+            letters += QChar("aBcz"[random() % 4]);
+        }
+        if (step % 3 == 0) {
+            proxy.setFilter(MediaListModel::TitleRole, filters[random() % 5]);
+        }
+        refresh([&](DeviceInfo& unit) { unit.setMediaList(titles(letters)); });
+        QCoreApplication::processEvents();
+        ASSERT_TRUE(proxyShadow.isTrue()) << step;
+        for (int row = 1; row < proxy.rowCount(); ++row) {
+            ASSERT_GE(proxyShadow.value(row - 1, 256)
+                          .toString()
+                          .compare(proxyShadow.value(row, 256).toString(), Qt::CaseInsensitive),
+                      0);
+        }
+        proxy.setFilter(MediaListModel::TitleRole, "");
+        ASSERT_EQ(proxy.rowCount(), letters.size());
+    }
+    proxy.setFilter(MediaListModel::TitleRole, "(");
+    EXPECT_EQ(proxy.rowCount(), 0) << "no expression";
 }
 
 } // namespace
