@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <string_view>
 
 namespace Simulator {
 
@@ -44,6 +45,19 @@ NetworkState ownAccessPoint(const UnitOptions& options) {
     return network;
 }
 
+AudioState firstAudio(const Product& product) {
+    AudioState audio;
+    audio.devices = {{"HDMI Input", "Sound of the player on HDMI 1", "hdmi-in-1", "HDMI", false, true},
+                     {"Line Input", "Analogue input on the back", "line-in", "Analogue", false, true},
+                     {"Optical Input", "Digital input on the back", "optical-in", "S/PDIF", false, false},
+                     {"Speakers", "Sound that this unit plays", "speakers-out", "Analogue", true, true}};
+    if (std::string_view(product.key) == "ruvello")
+        audio.devices = {{"Microphone", "Built-in microphone", "microphone", "Internal", false, true},
+                         {"Line Input", "Analogue input on the side", "line-in", "Analogue", false, true}};
+    audio.selected = audio.devices.front().identification;
+    return audio;
+}
+
 } // namespace
 
 UnitState initialState(const UnitOptions& options) {
@@ -51,6 +65,8 @@ UnitState initialState(const UnitOptions& options) {
     state.name = options.name;
     state.network = options.accessPoint ? ownAccessPoint(options) : joinedNetwork(options);
     state.media.count = options.media;
+    const Product& product = *findProduct(options.product);
+    state.audio = firstAudio(product);
     return state;
 }
 
