@@ -67,6 +67,9 @@ UnitState initialState(const UnitOptions& options) {
     state.media.count = options.media;
     const Product& product = *findProduct(options.product);
     state.audio = firstAudio(product);
+    if (options.product == "ruvello")
+        state.experience.modes = {2, 3};
+    state.experience.selected = state.experience.modes.front();
     return state;
 }
 

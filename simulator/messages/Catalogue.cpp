@@ -29,6 +29,8 @@ constexpr std::array catalogue{
     Message{"SetAutomaticVolumeControl", setAutomaticVolumeControl},
     Message{"GetAdaptiveAudioParameters", getAdaptiveAudioParameters},
     Message{"SetAdaptiveAudioParameters", setAdaptiveAudioParameters},
+    Message{"GetExperienceModes", getExperienceModes},
+    Message{"SetExperienceMode", setExperienceMode},
 };
 
 const Message* find(std::string_view type) {

@@ -70,4 +70,9 @@ Answer setAutomaticVolumeControl(UnitState& state, const Request& request);
 Answer getAdaptiveAudioParameters(UnitState& state, const Request& request);
 Answer setAdaptiveAudioParameters(UnitState& state, const Request& request);
 
+Answer getExperienceModes(UnitState& state, const Request& request);
+Answer setExperienceMode(UnitState& state, const Request& request);
+/// What the unit says about the status of a mode change; 0 is "Ok".
+std::string messageOfModeStatus(int status);
+
 } // namespace Simulator
