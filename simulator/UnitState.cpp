@@ -10,6 +10,8 @@ namespace Simulator {
 
 namespace {
 
+constexpr int noSeatFound = 910; ///< status of a mode change
+
 /// A locally administered hardware address that stays the same for a serial number.
 std::string hardwareAddress(const std::string& serial, unsigned int interface) {
     std::uint32_t hash = 2166136261U; // FNV-1a
@@ -70,6 +72,14 @@ UnitState initialState(const UnitOptions& options) {
     if (options.product == "ruvello")
         state.experience.modes = {2, 3};
     state.experience.selected = state.experience.modes.front();
+    state.seats.resize(options.seats);
+    for (std::size_t i = 0; i < options.seats; ++i)
+        state.seats[i].index = static_cast<int>(i) + 1;
+    if (options.seats == 0) {
+        state.experience.status = noSeatFound;
+        state.experience.failure = noSeatFound;
+        state.experience.message = "No seat was found";
+    }
     return state;
 }
 

@@ -106,6 +106,24 @@ struct ExperienceState {
     int failure = 0;                            ///< every change ends with this status; 0: it succeeds
 };
 
+/// A seat's overall state; the values are those of the line.
+enum class SeatCondition {
+    Ok = 0,
+    Fault = 10,
+    Transition = 20,
+    NoPower = 30,         ///< or an actuator is unplugged
+    NoCommunication = 40, ///< takes no settings
+};
+
+struct SeatState {
+    int index = 1; ///< counts from 1
+    bool muted = false;
+    bool chained = false; ///< motion and vibration are moved together
+    double motion = -6;   ///< dB, -20 to 0, as vibration
+    double vibration = -6;
+    SeatCondition condition = SeatCondition::Ok;
+};
+
 /// What a unit knows and remembers. Answers read and change it; what is to follow by itself goes into
 /// `steps`, what other clients should hear of into `notifications`, and the unit takes both out after every
 /// change.
@@ -117,6 +135,9 @@ struct UnitState {
     MediaState media;
     AudioState audio;
     ExperienceState experience;
+    std::vector<SeatState> seats;
+    int motionDelay = 0;           ///< ms, -1000 to 1000
+    int recognitionTolerance = 10; ///< s, 0 to 60
 
     std::vector<Step> steps;
     std::vector<Notification> notifications;

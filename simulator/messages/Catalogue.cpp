@@ -31,6 +31,12 @@ constexpr std::array catalogue{
     Message{"SetAdaptiveAudioParameters", setAdaptiveAudioParameters},
     Message{"GetExperienceModes", getExperienceModes},
     Message{"SetExperienceMode", setExperienceMode},
+    Message{"GetSeatStatus", getSeatStatus},
+    Message{"SetSeatSetting", setSeatSetting},
+    Message{"GetMotionDelay", getMotionDelay},
+    Message{"SetMotionDelay", setMotionDelay},
+    Message{"GetRecognitionTolerance", getRecognitionTolerance},
+    Message{"SetRecognitionTolerance", setRecognitionTolerance},
 };
 
 const Message* find(std::string_view type) {

@@ -75,4 +75,13 @@ Answer setExperienceMode(UnitState& state, const Request& request);
 /// What the unit says about the status of a mode change; 0 is "Ok".
 std::string messageOfModeStatus(int status);
 
+Answer getSeatStatus(UnitState& state, const Request& request);
+Answer setSeatSetting(UnitState& state, const Request& request);
+Answer getMotionDelay(UnitState& state, const Request& request);
+Answer setMotionDelay(UnitState& state, const Request& request);
+Answer getRecognitionTolerance(UnitState& state, const Request& request);
+Answer setRecognitionTolerance(UnitState& state, const Request& request);
+/// A seat's condition in words.
+std::string describe(SeatCondition condition);
+
 } // namespace Simulator
