@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <string_view>
+#include <utility>
 
 namespace Simulator {
 
@@ -47,6 +48,14 @@ NetworkState ownAccessPoint(const UnitOptions& options) {
     return network;
 }
 
+void addSoftware(HealthState& health, const char* name, bool ofUser) {
+    SoftwareEntry entry;
+    entry.name = name;
+    if (ofUser)
+        entry.user = health.user;
+    health.entries.push_back(std::move(entry));
+}
+
 AudioState firstAudio(const Product& product) {
     AudioState audio;
     audio.devices = {{"HDMI Input", "Sound of the player on HDMI 1", "hdmi-in-1", "HDMI", false, true},
@@ -68,6 +77,12 @@ UnitState initialState(const UnitOptions& options) {
     state.network = options.accessPoint ? ownAccessPoint(options) : joinedNetwork(options);
     state.media.count = options.media;
     const Product& product = *findProduct(options.product);
+    state.hardware.product = product.name;
+    state.hardware.model = product.model;
+    state.hardware.serial = options.serial;
+    addSoftware(state.health, "Monitor Service", false);
+    addSoftware(state.health, "Content Service", false);
+    addSoftware(state.health, "Quivera Agent", true);
     state.audio = firstAudio(product);
     if (options.product == "ruvello")
         state.experience.modes = {2, 3};

@@ -124,6 +124,40 @@ struct SeatState {
     SeatCondition condition = SeatCondition::Ok;
 };
 
+/// The controller itself, as its detailed status shows it.
+struct HardwareState {
+    std::string product;
+    std::string model;
+    std::string serial;
+    double load = 12.5;     ///< per cent
+    int temperature = 46;   ///< degrees Celsius; overheated from 85 on
+    int supplyVoltage = 24; ///< V
+};
+
+/// A piece of the software on the PC that the unit works with. Status: 3 good, 2 in progress, 1 error,
+/// 0 stopped.
+struct SoftwareEntry {
+    std::string name;
+    std::string user; ///< whose session it runs in; empty for a service
+    int status = 3;
+    std::string message = "Running";
+    std::string timestamp = "2025-11-03T08:15:00Z"; ///< ISO 8601, UTC: since when
+};
+
+struct HealthState {
+    int overall = 3; ///< as the status of an entry
+    std::string user = "viewer";
+    std::vector<SoftwareEntry> entries;
+};
+
+/// The adaptive gaming profile that is selected.
+struct GamingProfile {
+    std::string id = "racing-01";
+    std::string name = "Racing";
+    int type = 1;
+    int version = 3;
+};
+
 /// What a unit knows and remembers. Answers read and change it; what is to follow by itself goes into
 /// `steps`, what other clients should hear of into `notifications`, and the unit takes both out after every
 /// change.
@@ -136,6 +170,9 @@ struct UnitState {
     AudioState audio;
     ExperienceState experience;
     std::vector<SeatState> seats;
+    HardwareState hardware;
+    HealthState health;
+    GamingProfile profile;
     int motionDelay = 0;           ///< ms, -1000 to 1000
     int recognitionTolerance = 10; ///< s, 0 to 60
 

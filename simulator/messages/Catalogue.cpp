@@ -37,6 +37,9 @@ constexpr std::array catalogue{
     Message{"SetMotionDelay", setMotionDelay},
     Message{"GetRecognitionTolerance", getRecognitionTolerance},
     Message{"SetRecognitionTolerance", setRecognitionTolerance},
+    Message{"GetHapticSystemStatus", getHapticSystemStatus},
+    Message{"GetSoftwareHealthStatus", getSoftwareHealthStatus},
+    Message{"GetAdaptiveGamingSelectedProfile", getAdaptiveGamingSelectedProfile},
 };
 
 const Message* find(std::string_view type) {

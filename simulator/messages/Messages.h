@@ -84,4 +84,8 @@ Answer setRecognitionTolerance(UnitState& state, const Request& request);
 /// A seat's condition in words.
 std::string describe(SeatCondition condition);
 
+Answer getHapticSystemStatus(UnitState& state, const Request& request);
+Answer getSoftwareHealthStatus(UnitState& state, const Request& request);
+Answer getAdaptiveGamingSelectedProfile(UnitState& state, const Request& request);
+
 } // namespace Simulator
