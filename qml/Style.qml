@@ -22,6 +22,8 @@ QtObject {
     readonly property color accentPressed: "#38b0d6"
 
     readonly property color attention: "#f5b95a"
+    readonly property color good: "#7fd89a"
+    readonly property color error: "#ff9a8f"
 
     // Space, in steps of 4.
     readonly property int spaceTiny: 4
@@ -36,7 +38,14 @@ QtObject {
     readonly property int titleBarHeight: 72
     readonly property int deviceIcon: 64
     readonly property int symbol: 24
+    readonly property int smallSymbol: 20
+    readonly property int sliderHandle: 22
+    readonly property int listRowHeight: 60
     readonly property int contentWidth: 680
+    readonly property int wideContentWidth: 1180
+    // From here on cards stand in two columns, and lists show their columns side by side.
+    readonly property int twoColumnsFrom: 1060
+    readonly property int tableFrom: 700
 
     readonly property string fontFamily: "Roboto"
     readonly property int fontSmall: 13
@@ -50,6 +59,53 @@ QtObject {
     readonly property url logo: "qrc:/qml/images/logo.svg"
     readonly property url symbolAdd: "qrc:/qml/images/add.svg"
     readonly property url symbolAttention: "qrc:/qml/images/attention.svg"
+
+    readonly property url symbolChevronDown: "qrc:/qml/images/chevron-down.svg"
+    readonly property url symbolChevronRight: "qrc:/qml/images/chevron-right.svg"
+    readonly property url symbolSortAscending: "qrc:/qml/images/sort-ascending.svg"
+    readonly property url symbolSortDescending: "qrc:/qml/images/sort-descending.svg"
+    readonly property url symbolLink: "qrc:/qml/images/link.svg"
+    readonly property url symbolClear: "qrc:/qml/images/clear.svg"
+    readonly property url symbolSearch: "qrc:/qml/images/search.svg"
+
+    // The ways a status looks and reads. A colour never stands alone.
+    readonly property var statusNeutral: ({
+            "color": textSecondary,
+            "symbol": "qrc:/qml/images/status-neutral.svg",
+            "meaning": qsTr("Inactive")
+        })
+    readonly property var statusError: ({
+            "color": error,
+            "symbol": "qrc:/qml/images/status-error.svg",
+            "meaning": qsTr("Fault")
+        })
+    readonly property var statusProgress: ({
+            "color": attention,
+            "symbol": "qrc:/qml/images/status-progress.svg",
+            "meaning": qsTr("In transition")
+        })
+    readonly property var statusGood: ({
+            "color": good,
+            "symbol": "qrc:/qml/images/status-good.svg",
+            "meaning": qsTr("OK")
+        })
+    readonly property var statusNone: ({
+            "color": text,
+            "symbol": "",
+            "meaning": ""
+        })
+
+    // Two scales: services, programs and seats count 3 as good; the detailed status counts 3 as a fault.
+    readonly property var serviceScale: [statusNeutral, statusError, statusProgress, statusGood]
+    readonly property var detailScale: [statusNone, statusGood, statusProgress, statusError]
+
+    function serviceStatus(type) {
+        return serviceScale[type] || statusError;
+    }
+
+    function detailStatus(type) {
+        return detailScale[type] || statusError;
+    }
 
     // By product name as the units announce it.
     readonly property var productImages: ({
