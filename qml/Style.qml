@@ -47,9 +47,26 @@ QtObject {
     readonly property int windowWidth: 750
     readonly property int windowHeight: 900
 
+    readonly property int tipDelay: 600 // ms
+
     readonly property url logo: "qrc:/qml/images/logo.svg"
     readonly property url symbolAdd: "qrc:/qml/images/add.svg"
     readonly property url symbolAttention: "qrc:/qml/images/attention.svg"
+    readonly property url symbolBack: "qrc:/qml/images/back.svg"
+    readonly property url symbolInfo: "qrc:/qml/images/info.svg"
+    readonly property url symbolEdit: "qrc:/qml/images/edit.svg"
+    readonly property url symbolCopy: "qrc:/qml/images/copy.svg"
+    readonly property url symbolWiFi: "qrc:/qml/images/wifi.svg"
+    readonly property url symbolWiFiActive: "qrc:/qml/images/wifi-accent.svg"
+    readonly property url symbolAccessPoint: "qrc:/qml/images/access-point.svg"
+    readonly property url symbolNetwork: "qrc:/qml/images/network.svg"
+    readonly property url symbolEncrypted: "qrc:/qml/images/lock.svg"
+    readonly property url symbolUnencrypted: "qrc:/qml/images/unlocked.svg"
+    readonly property url symbolShow: "qrc:/qml/images/eye.svg"
+    readonly property url symbolHide: "qrc:/qml/images/eye-off.svg"
+    readonly property url symbolGood: "qrc:/qml/images/check.svg"
+    readonly property url symbolError: "qrc:/qml/images/error.svg"
+    readonly property url symbolInactive: "qrc:/qml/images/inactive.svg"
 
     // By product name as the units announce it.
     readonly property var productImages: ({
