@@ -56,27 +56,43 @@ QtObject {
     readonly property int windowWidth: 750
     readonly property int windowHeight: 900
 
+    readonly property int tipDelay: 600 // ms
+
     readonly property url logo: "qrc:/qml/images/logo.svg"
     readonly property url symbolAdd: "qrc:/qml/images/add.svg"
     readonly property url symbolAttention: "qrc:/qml/images/attention.svg"
+    readonly property url symbolBack: "qrc:/qml/images/back.svg"
+    readonly property url symbolInfo: "qrc:/qml/images/info.svg"
+    readonly property url symbolEdit: "qrc:/qml/images/edit.svg"
+    readonly property url symbolCopy: "qrc:/qml/images/copy.svg"
+    readonly property url symbolWiFi: "qrc:/qml/images/wifi.svg"
+    readonly property url symbolWiFiActive: "qrc:/qml/images/wifi-accent.svg"
+    readonly property url symbolAccessPoint: "qrc:/qml/images/access-point.svg"
+    readonly property url symbolNetwork: "qrc:/qml/images/network.svg"
+    readonly property url symbolEncrypted: "qrc:/qml/images/lock.svg"
+    readonly property url symbolUnencrypted: "qrc:/qml/images/unlocked.svg"
+    readonly property url symbolShow: "qrc:/qml/images/eye.svg"
+    readonly property url symbolHide: "qrc:/qml/images/eye-off.svg"
+    readonly property url symbolGood: "qrc:/qml/images/check.svg"
+    readonly property url symbolError: "qrc:/qml/images/error.svg"
+    readonly property url symbolInactive: "qrc:/qml/images/inactive.svg"
 
     readonly property url symbolChevronDown: "qrc:/qml/images/chevron-down.svg"
     readonly property url symbolChevronRight: "qrc:/qml/images/chevron-right.svg"
     readonly property url symbolSortAscending: "qrc:/qml/images/sort-ascending.svg"
     readonly property url symbolSortDescending: "qrc:/qml/images/sort-descending.svg"
-    readonly property url symbolLink: "qrc:/qml/images/link.svg"
     readonly property url symbolClear: "qrc:/qml/images/clear.svg"
     readonly property url symbolSearch: "qrc:/qml/images/search.svg"
 
     // The ways a status looks and reads. A colour never stands alone.
     readonly property var statusNeutral: ({
             "color": textSecondary,
-            "symbol": "qrc:/qml/images/status-neutral.svg",
+            "symbol": symbolInactive,
             "meaning": qsTr("Inactive")
         })
     readonly property var statusError: ({
             "color": error,
-            "symbol": "qrc:/qml/images/status-error.svg",
+            "symbol": symbolError,
             "meaning": qsTr("Fault")
         })
     readonly property var statusProgress: ({
@@ -86,7 +102,7 @@ QtObject {
         })
     readonly property var statusGood: ({
             "color": good,
-            "symbol": "qrc:/qml/images/status-good.svg",
+            "symbol": symbolGood,
             "meaning": qsTr("OK")
         })
     readonly property var statusNone: ({
