@@ -22,6 +22,8 @@ QtObject {
     readonly property color accentPressed: "#38b0d6"
 
     readonly property color attention: "#f5b95a"
+    readonly property color good: "#7fd89a"
+    readonly property color error: "#ff9a8f"
 
     // Space, in steps of 4.
     readonly property int spaceTiny: 4
@@ -36,7 +38,12 @@ QtObject {
     readonly property int titleBarHeight: 72
     readonly property int deviceIcon: 64
     readonly property int symbol: 24
+    readonly property int largeSymbol: 56
+    readonly property int stepSize: 28
+    readonly property int smallSymbol: 20
+    readonly property int listRowHeight: 60
     readonly property int contentWidth: 680
+    readonly property int formWidth: 480
 
     readonly property string fontFamily: "Roboto"
     readonly property int fontSmall: 13
@@ -58,6 +65,7 @@ QtObject {
     readonly property url symbolCopy: "qrc:/qml/images/copy.svg"
     readonly property url symbolWiFi: "qrc:/qml/images/wifi.svg"
     readonly property url symbolWiFiActive: "qrc:/qml/images/wifi-accent.svg"
+    readonly property url symbolWiFiOnAccent: "qrc:/qml/images/wifi-on-accent.svg"
     readonly property url symbolAccessPoint: "qrc:/qml/images/access-point.svg"
     readonly property url symbolNetwork: "qrc:/qml/images/network.svg"
     readonly property url symbolEncrypted: "qrc:/qml/images/lock.svg"
@@ -67,6 +75,45 @@ QtObject {
     readonly property url symbolGood: "qrc:/qml/images/check.svg"
     readonly property url symbolError: "qrc:/qml/images/error.svg"
     readonly property url symbolInactive: "qrc:/qml/images/inactive.svg"
+
+    // The ways a status looks and reads. A colour never stands alone.
+    readonly property var statusNeutral: ({
+            "color": textSecondary,
+            "symbol": symbolInactive,
+            "meaning": qsTr("Inactive")
+        })
+    readonly property var statusError: ({
+            "color": error,
+            "symbol": symbolError,
+            "meaning": qsTr("Fault")
+        })
+    readonly property var statusProgress: ({
+            "color": attention,
+            "symbol": "qrc:/qml/images/status-progress.svg",
+            "meaning": qsTr("In transition")
+        })
+    readonly property var statusGood: ({
+            "color": good,
+            "symbol": symbolGood,
+            "meaning": qsTr("OK")
+        })
+    readonly property var statusNone: ({
+            "color": text,
+            "symbol": "",
+            "meaning": ""
+        })
+
+    // Two scales: services, programs and seats count 3 as good; the detailed status counts 3 as a fault.
+    readonly property var serviceScale: [statusNeutral, statusError, statusProgress, statusGood]
+    readonly property var detailScale: [statusNone, statusGood, statusProgress, statusError]
+
+    function serviceStatus(type) {
+        return serviceScale[type] || statusError;
+    }
+
+    function detailStatus(type) {
+        return detailScale[type] || statusError;
+    }
 
     // By product name as the units announce it.
     readonly property var productImages: ({
