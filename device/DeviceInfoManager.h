@@ -48,6 +48,9 @@ public:
     int deviceCount() const;
     std::shared_ptr<DeviceInfo> deviceAt(int index) const; ///< none when out of range
     std::shared_ptr<DeviceInfo> selectedDevice() const { return m_selected; }
+    /// Whether the selected unit has not been read again since the user's last setting: what is known of it
+    /// may be older than that setting.
+    bool isSettling() const { return m_isSettling; }
 
     // Called by the pages: what is shown decides what is polled. Without a selected unit, those that concern
     // one do nothing but change the state.
@@ -97,6 +100,7 @@ signals:
     void itemUpdated(int index);
     void itemsRemoved(int firstIndex, int lastIndex);
     void selectedDeviceUpdated();
+    void settlingChanged();
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -115,6 +119,7 @@ private:
     void tick();
     void complete(bool success);
     void countForSelected(bool success);
+    void setSettling(bool settling);
     void guarded(const char* what, const std::function<void()>& step);
 
     void startRequest(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields,
@@ -135,6 +140,7 @@ private:
     std::shared_ptr<DeviceInfo> m_requested; ///< the unit of the request under way, or of the last one
     std::function<Clock::time_point()> m_now;
     int m_timerId = 0;
+    bool m_isSettling = false;
     bool m_cancelling = false; ///< the completion under way is of our own making
     std::unique_ptr<PendingSettings> m_settings;
     std::unique_ptr<States> m_states;

@@ -41,9 +41,14 @@ QtObject {
     readonly property int largeSymbol: 56
     readonly property int stepSize: 28
     readonly property int smallSymbol: 20
+    readonly property int sliderHandle: 22
     readonly property int listRowHeight: 60
     readonly property int contentWidth: 680
     readonly property int formWidth: 480
+    readonly property int wideContentWidth: 1180
+    // From here on cards stand in two columns, and lists show their columns side by side.
+    readonly property int twoColumnsFrom: 1060
+    readonly property int tableFrom: 700
 
     readonly property string fontFamily: "Roboto"
     readonly property int fontSmall: 13
@@ -75,6 +80,13 @@ QtObject {
     readonly property url symbolGood: "qrc:/qml/images/check.svg"
     readonly property url symbolError: "qrc:/qml/images/error.svg"
     readonly property url symbolInactive: "qrc:/qml/images/inactive.svg"
+
+    readonly property url symbolChevronDown: "qrc:/qml/images/chevron-down.svg"
+    readonly property url symbolChevronRight: "qrc:/qml/images/chevron-right.svg"
+    readonly property url symbolSortAscending: "qrc:/qml/images/sort-ascending.svg"
+    readonly property url symbolSortDescending: "qrc:/qml/images/sort-descending.svg"
+    readonly property url symbolClear: "qrc:/qml/images/clear.svg"
+    readonly property url symbolSearch: "qrc:/qml/images/search.svg"
 
     // The ways a status looks and reads. A colour never stands alone.
     readonly property var statusNeutral: ({
