@@ -38,11 +38,14 @@ QtObject {
     readonly property int titleBarHeight: 72
     readonly property int deviceIcon: 64
     readonly property int symbol: 24
+    readonly property int largeSymbol: 56
+    readonly property int stepSize: 28
     readonly property int smallSymbol: 20
     readonly property int sliderHandle: 22
     readonly property int listRowHeight: 60
     readonly property int detailRowHeight: 48
     readonly property int contentWidth: 680
+    readonly property int formWidth: 480
     readonly property int wideContentWidth: 1180
     // From here on cards stand in two columns, and lists show their columns side by side.
     readonly property int twoColumnsFrom: 1060
@@ -68,6 +71,7 @@ QtObject {
     readonly property url symbolCopy: "qrc:/qml/images/copy.svg"
     readonly property url symbolWiFi: "qrc:/qml/images/wifi.svg"
     readonly property url symbolWiFiActive: "qrc:/qml/images/wifi-accent.svg"
+    readonly property url symbolWiFiOnAccent: "qrc:/qml/images/wifi-on-accent.svg"
     readonly property url symbolAccessPoint: "qrc:/qml/images/access-point.svg"
     readonly property url symbolNetwork: "qrc:/qml/images/network.svg"
     readonly property url symbolEncrypted: "qrc:/qml/images/lock.svg"
