@@ -238,6 +238,7 @@ void DeviceInfoManager::queueAndShow(std::shared_ptr<DeviceUpdateRequest> reques
     queueSetting(std::move(request));
     m_states->setDeviceProperty.returnTo(returnState);
     switchTo(m_states->setDeviceProperty);
+    setSettling(true);
 }
 
 /// Settings outlive the page they were made on: they are sent to their unit whatever state is current by
@@ -329,6 +330,8 @@ void DeviceInfoManager::onRequestComplete(bool success) {
 
 void DeviceInfoManager::complete(bool success) {
     countForSelected(success);
+    // A reading that began before the setting was sent ends while it still waits.
+    const bool hasSettled = m_settings->isEmpty() && !m_settings->isInFlight() && !m_cancelling;
     if (m_settings->isInFlight()) {
         m_settings->finish(success || !m_communicator->isLastUpdateInDoubt());
     } else {
@@ -341,6 +344,15 @@ void DeviceInfoManager::complete(bool success) {
         if (row >= 0) {
             emit itemUpdated(row);
         }
+    }
+    if (hasSettled) {
+        setSettling(false);
+    }
+}
+
+void DeviceInfoManager::setSettling(bool settling) {
+    if (std::exchange(m_isSettling, settling) != settling) {
+        emit settlingChanged();
     }
 }
 
@@ -391,6 +403,7 @@ void DeviceInfoManager::cancelRequest() {
 void DeviceInfoManager::select(std::shared_ptr<DeviceInfo> unit) {
     m_selected = std::move(unit);
     emit selectedDeviceUpdated();
+    setSettling(false);
 }
 
 void DeviceInfoManager::drainDiscovery(Relocation relocation) {

@@ -48,6 +48,9 @@ public:
     int deviceCount() const;
     std::shared_ptr<DeviceInfo> deviceAt(int index) const; ///< none when out of range
     std::shared_ptr<DeviceInfo> selectedDevice() const { return m_selected; }
+    /// Whether the selected unit has not been read again since the user's last setting: what is known of it
+    /// may be older than that setting.
+    bool isSettling() const { return m_isSettling; }
 
     // Called by the pages: what is shown decides what is polled. Without a selected unit, those that concern
     // one do nothing but change the state.
@@ -100,6 +103,7 @@ signals:
     void itemUpdated(int index);
     void itemsRemoved(int firstIndex, int lastIndex);
     void selectedDeviceUpdated();
+    void settlingChanged();
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -120,6 +124,7 @@ private:
     void tick();
     void complete(bool success);
     void countForSelected(bool success);
+    void setSettling(bool settling);
     void guarded(const char* what, const std::function<void()>& step);
 
     void startRequest(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields,
@@ -142,7 +147,8 @@ private:
     int m_timerId = 0;                  ///< of the state machine
     TimeSource::TimePoint m_stateDue{}; ///< when the current state wants its next tick
     int m_contentUpdateTimerId = 0;     ///< of the content update that a page asked for
-    bool m_cancelling = false;          ///< the completion under way is of our own making
+    bool m_isSettling = false;
+    bool m_cancelling = false; ///< the completion under way is of our own making
     std::unique_ptr<PendingSettings> m_settings;
     std::unique_ptr<States> m_states;
     State* m_state;

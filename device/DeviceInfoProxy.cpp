@@ -108,6 +108,7 @@ void DeviceInfoProxy::setDeviceInfoManager(std::shared_ptr<DeviceInfoManager> ma
     m_manager = std::move(manager);
     connect(m_manager.get(), &DeviceInfoManager::selectedDeviceUpdated, this,
             &DeviceInfoProxy::onDeviceInfoUpdated);
+    connect(m_manager.get(), &DeviceInfoManager::settlingChanged, this, &DeviceInfoProxy::settlingChanged);
 }
 
 void DeviceInfoProxy::onDeviceInfoUpdated() {
@@ -304,11 +305,20 @@ QString DeviceInfoProxy::mediaOffset() const {
 QString DeviceInfoProxy::mediaDuration() const {
     return DisplayTexts::mediaTime(fromUnit(&DeviceInfo::mediaDuration, -1));
 }
+double DeviceInfoProxy::mediaProgress() const {
+    const int duration = fromUnit(&DeviceInfo::mediaDuration, -1);
+    const int offset = fromUnit(&DeviceInfo::mediaOffset, -1);
+    return duration > 0 ? std::clamp(static_cast<double>(offset) / duration, 0.0, 1.0) : 0.0;
+}
 int DeviceInfoProxy::motionDelay() const {
     return fromUnit(&DeviceInfo::motionDelay);
 }
 int DeviceInfoProxy::recognitionTolerance() const {
     return fromUnit(&DeviceInfo::recognitionTolerance);
+}
+
+bool DeviceInfoProxy::settling() const {
+    return m_manager && m_manager->isSettling();
 }
 
 void DeviceInfoProxy::updateContentUpdateState() {

@@ -76,9 +76,13 @@ class DeviceInfoProxy : public QObject {
     Q_PROPERTY(QString mediaTitle READ mediaTitle NOTIFY mediaTitleChanged)
     Q_PROPERTY(QString mediaOffset READ mediaOffset NOTIFY mediaProgressChanged)
     Q_PROPERTY(QString mediaDuration READ mediaDuration NOTIFY mediaProgressChanged)
+    /// The part of the media that has been played, 0 to 1; 0 when nothing is playing.
+    Q_PROPERTY(double mediaProgress READ mediaProgress NOTIFY mediaProgressChanged)
     Q_PROPERTY(int motionDelay READ motionDelay WRITE setMotionDelay NOTIFY motionDelayChanged)
     Q_PROPERTY(int recognitionTolerance READ recognitionTolerance WRITE setRecognitionTolerance NOTIFY
                    recognitionToleranceChanged)
+    /// The user's last setting is not yet confirmed or refused: the values may be older than it.
+    Q_PROPERTY(bool settling READ settling NOTIFY settlingChanged)
 
 public:
     DeviceInfoProxy();
@@ -138,8 +142,10 @@ public:
     QString mediaTitle() const;
     QString mediaOffset() const;
     QString mediaDuration() const;
+    double mediaProgress() const;
     int motionDelay() const;          ///< ms
     int recognitionTolerance() const; ///< s
+    bool settling() const;
 
 public slots:
     void setName(QString name);
@@ -187,6 +193,7 @@ signals:
     void mediaProgressChanged();
     void motionDelayChanged();
     void recognitionToleranceChanged();
+    void settlingChanged();
 
 private:
     struct FieldUpdate;

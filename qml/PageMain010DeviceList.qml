@@ -83,51 +83,13 @@ Rectangle {
             Layout.bottomMargin: Style.spaceLarge
             spacing: Style.spaceSmall
 
-            Button {
-                id: addButton
+            ButtonText {
                 objectName: "addButton"
                 Layout.fillWidth: true
-                implicitHeight: Math.max(Style.touchTarget, contentItem.implicitHeight + 2 * Style.spaceMedium)
                 text: qsTr("Add Quivera Device from Network")
-                hoverEnabled: true
-                Accessible.name: text
+                symbol: Style.symbolAdd
                 Accessible.description: addHint.text
                 onClicked: root.addDevice()
-                Keys.onReturnPressed: clicked()
-                Keys.onEnterPressed: clicked()
-
-                background: WidgetButtonBackground {
-                    hovered: addButton.hovered
-                    pressed: addButton.down
-                    focused: addButton.visualFocus
-                }
-
-                contentItem: RowLayout {
-                    spacing: Style.spaceSmall
-
-                    Item {
-                        Layout.fillWidth: true
-                    }
-
-                    Image {
-                        source: Style.symbolAdd
-                        sourceSize.width: Style.symbol
-                        sourceSize.height: Style.symbol
-                    }
-
-                    Text {
-                        text: addButton.text
-                        color: Style.textOnAccent
-                        wrapMode: Text.Wrap
-                        font.family: Style.fontFamily
-                        font.pixelSize: Style.fontBody
-                        font.weight: Font.Medium
-                    }
-
-                    Item {
-                        Layout.fillWidth: true
-                    }
-                }
             }
 
             Text {

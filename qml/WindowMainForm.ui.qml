@@ -1,11 +1,11 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 
 Item {
     property alias stack: stack
 
-    StackView {
+    PageStack {
         id: stack
         anchors.fill: parent
+        windowName: "WindowMain"
     }
 }

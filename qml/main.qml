@@ -20,6 +20,22 @@ Window {
 
     WindowMain {
         anchors.fill: parent
+        visible: !setupWindow.visible
+        inSetup: setupWindow.inSetup
+        onAddDevice: {
+            setupWindow.visible = true;
+            setupWindow.startSetup();
+        }
+    }
+
+    WindowSetup {
+        id: setupWindow
+        anchors.fill: parent
+        visible: false
+        onSetupDone: {
+            visible = false;
+            deviceManager.activateDeviceList();
+        }
     }
 
     WindowSplash {

@@ -1,0 +1,66 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+import "."
+
+// One Wi-Fi network in a list.
+AbstractButton {
+    id: root
+
+    property string networkName
+    // Whether the unit is joined to it.
+    property bool active: false
+
+    implicitHeight: Math.max(Style.listRowHeight, contentItem.implicitHeight + topPadding + bottomPadding)
+    horizontalPadding: Style.spaceMedium
+    verticalPadding: Style.spaceSmall
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+
+    Accessible.role: Accessible.Button
+    Accessible.name: root.networkName
+    Accessible.description: root.active ? qsTr("Connected") : ""
+
+    Keys.onReturnPressed: event => pressedByKey(event)
+    Keys.onEnterPressed: event => pressedByKey(event)
+
+    function pressedByKey(event) {
+        if (!event.isAutoRepeat) {
+            root.clicked();
+        }
+    }
+
+    background: WidgetBackground {
+        hovered: root.hovered
+        pressed: root.down
+        focused: root.activeFocus
+    }
+
+    contentItem: RowLayout {
+        spacing: Style.spaceMedium
+
+        Image {
+            source: root.active ? Style.symbolWiFiActive : Style.symbolWiFi
+            sourceSize.width: Style.symbol
+            sourceSize.height: Style.symbol
+        }
+
+        WidgetText {
+            objectName: "networkName"
+            Layout.fillWidth: true
+            text: root.networkName
+            wrapMode: Text.NoWrap
+            elide: Text.ElideRight
+            maximumLineCount: 1
+            font.pixelSize: Style.fontTitle
+        }
+
+        WidgetStatus {
+            objectName: "activeStatus"
+            Layout.fillWidth: false
+            visible: root.active
+            statusType: 3
+            text: qsTr("Connected")
+        }
+    }
+}

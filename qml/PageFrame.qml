@@ -1,0 +1,58 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import "."
+
+// A page with a title bar and one column that scrolls when it is longer than the window.
+Rectangle {
+    id: root
+
+    default property alias content: column.data
+    property alias title: bar.title
+    property alias details: bar.details
+    property alias canGoBack: bar.canGoBack
+    property alias rightIcon: bar.rightIcon
+    property alias rightName: bar.rightName
+    property alias showsTitle: bar.visible
+    property alias maximumContentWidth: area.maximumContentWidth
+    property alias spacing: column.spacing
+    // Whether a column that is shorter than the window stands in its middle.
+    property bool centred: false
+    // What has the focus when the page is shown.
+    property Item initialFocus: null
+
+    signal buttonBackClicked
+    signal buttonRightClicked
+
+    color: Style.background
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        WidgetPageTitle {
+            id: bar
+            Layout.fillWidth: true
+            canGoBack: true
+            onButtonBackClicked: root.buttonBackClicked()
+            onButtonRightClicked: root.buttonRightClicked()
+        }
+
+        WidgetScrollArea {
+            id: area
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+
+            Item {
+                width: parent.width
+                height: root.centred ? Math.max(column.implicitHeight, area.height - 2 * Style.spaceMedium) : column.implicitHeight
+
+                ColumnLayout {
+                    id: column
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: parent.width
+                    spacing: Style.spaceMedium
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,33 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import "."
+
+// Asks for one line of text.
+PageFrame {
+    id: root
+
+    property alias text: input.label
+    property alias inputText: input.text
+    property alias maximumLength: input.maximumLength
+
+    signal buttonDoneClicked
+
+    maximumContentWidth: Style.formWidth
+    spacing: Style.spaceLarge
+    initialFocus: input.field
+
+    WidgetInputText {
+        id: input
+        objectName: "input"
+        Layout.fillWidth: true
+        Layout.topMargin: Style.spaceSmall
+        onAccepted: root.buttonDoneClicked()
+    }
+
+    ButtonText {
+        objectName: "doneButton"
+        Layout.fillWidth: true
+        text: qsTr("Done")
+        onClicked: root.buttonDoneClicked()
+    }
+}

@@ -1,0 +1,43 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import "."
+
+// Shows that something is being waited for, and what the user may do meanwhile.
+PageFrame {
+    id: root
+
+    property string text
+    property string notes
+
+    centred: true
+    maximumContentWidth: Style.formWidth
+    spacing: Style.spaceLarge
+    initialFocus: message
+
+    WidgetBusy {
+        Layout.alignment: Qt.AlignHCenter
+    }
+
+    WidgetText {
+        id: message
+        objectName: "messageText"
+        Layout.fillWidth: true
+        text: root.text
+        horizontalAlignment: Text.AlignHCenter
+        font.pixelSize: Style.fontTitle
+        lineHeight: 1.3
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+        Accessible.description: root.notes
+    }
+
+    WidgetText {
+        objectName: "notesText"
+        Layout.fillWidth: true
+        visible: text.length > 0
+        text: root.notes
+        horizontalAlignment: Text.AlignHCenter
+        color: Style.textSecondary
+        lineHeight: 1.2
+    }
+}

@@ -1,0 +1,59 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import "."
+
+// Asks for the password of the network that was chosen. An open network has none.
+PageFrame {
+    id: root
+
+    property string wiFiName
+    property alias passwordText: input.text
+    property alias buttonNext: next
+
+    signal nextClicked
+
+    maximumContentWidth: Style.formWidth
+    spacing: Style.spaceLarge
+    initialFocus: input.field
+
+    WidgetLabeledText {
+        Layout.fillWidth: true
+        Layout.topMargin: Style.spaceSmall
+        symbol: Style.symbolWiFi
+        label: qsTr("Wi-Fi Network")
+        text: root.wiFiName
+    }
+
+    WidgetInputPass {
+        id: input
+        objectName: "input"
+        Layout.fillWidth: true
+        label: qsTr("Password")
+        onTextChanged: {
+            if (text.length === 0) {
+                revealed = false;
+            }
+        }
+        // An empty password is a decision, to be made with the button.
+        onAccepted: {
+            if (text.length > 0) {
+                root.nextClicked();
+            }
+        }
+    }
+
+    WidgetText {
+        Layout.fillWidth: true
+        text: qsTr("Leave the password empty if the network is open.")
+        color: Style.textSecondary
+        font.pixelSize: Style.fontSmall
+    }
+
+    ButtonText {
+        id: next
+        objectName: "nextButton"
+        Layout.fillWidth: true
+        text: qsTr("Next")
+        onClicked: root.nextClicked()
+    }
+}
