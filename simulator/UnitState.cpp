@@ -1,5 +1,7 @@
 #include "UnitState.h"
 
+#include "simulator/messages/Messages.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -95,6 +97,8 @@ UnitState initialState(const UnitOptions& options) {
         state.experience.failure = noSeatFound;
         state.experience.message = "No seat was found";
     }
+    if (!options.accessPoint)
+        playTitle(state, 0);
     return state;
 }
 

@@ -67,6 +67,19 @@ struct MediaState {
     std::size_t count = 0;
 };
 
+/// What is heard and recognised. The words are those of the line.
+struct PlaybackState {
+    std::string audioState = "listening";
+    std::string motionCode = "listening";
+    std::string title;
+    int offset = 0;   ///< s, at `since`
+    int duration = 0; ///< s
+    double speed = 1; ///< seconds of the title for each second that goes by; 0: paused
+    std::chrono::steady_clock::time_point since{};
+    std::size_t number = 0; ///< of the title in the media list
+    int run = 0;            ///< counts what was played, so that the end of one is not taken for another's
+};
+
 struct CaptureDevice {
     std::string name;
     std::string description;
@@ -167,6 +180,7 @@ struct UnitState {
     SoftwareState software;
     ContentState content;
     MediaState media;
+    PlaybackState playback;
     AudioState audio;
     ExperienceState experience;
     std::vector<SeatState> seats;

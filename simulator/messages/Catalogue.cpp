@@ -40,6 +40,7 @@ constexpr std::array catalogue{
     Message{"GetHapticSystemStatus", getHapticSystemStatus},
     Message{"GetSoftwareHealthStatus", getSoftwareHealthStatus},
     Message{"GetAdaptiveGamingSelectedProfile", getAdaptiveGamingSelectedProfile},
+    Message{"GetMediaStatus", getMediaStatus},
 };
 
 const Message* find(std::string_view type) {
