@@ -40,6 +40,9 @@ constexpr std::array catalogue{
     Message{"GetHapticSystemStatus", getHapticSystemStatus},
     Message{"GetSoftwareHealthStatus", getSoftwareHealthStatus},
     Message{"GetAdaptiveGamingSelectedProfile", getAdaptiveGamingSelectedProfile},
+    Message{"GetMediaStatus", getMediaStatus},
+    Message{"GetWifiList", getWifiList},
+    Message{"SetWifiSetting", setWifiSetting},
 };
 
 const Message* find(std::string_view type) {
