@@ -17,6 +17,8 @@ PageMain040DeviceInfoForm {
     readonly property int adaptiveAudio: 2
     readonly property int adaptiveGaming: 3
 
+    // Two columns of cards.
+    readonly property bool isWide: width >= Style.twoColumnsFrom && showsSettings
     readonly property int mode: currDevice.experienceModeSelected
     readonly property bool isLoading: currDevice.online && !currDevice.detailsValid
     // A unit that answers some questions and never the others is older than this program.
@@ -83,9 +85,12 @@ PageMain040DeviceInfoForm {
     pageTitle.onButtonBackClicked: root.buttonBackClicked()
     pageTitle.onButtonRightClicked: root.aboutRequested()
 
-    columns.columns: width >= Style.twoColumnsFrom && outputs.visible ? 2 : 1
-    columns.width: Math.min(columns.parent.width, columns.columns === 2 ? Style.wideContentWidth : Style.contentWidth)
+    columns.width: Math.min(columns.parent.width, isWide ? Style.wideContentWidth : Style.contentWidth)
     columns.x: (columns.parent.width - columns.width) / 2
+    mainColumn.width: isWide ? (columns.width - Style.spaceMedium) / 2 : columns.width
+    outputs.width: mainColumn.width
+    outputs.x: isWide ? columns.width - outputs.width : 0
+    outputs.y: isWide ? 0 : mainColumn.height + Style.spaceMedium
 
     noticeCard.visible: !currDevice.online || isLoading
     notice.isWaiting: isLoading && !needsUpdate

@@ -8,6 +8,7 @@ Rectangle {
     property alias pageTitle: pageTitle
     property alias scrollArea: scrollArea
     property alias columns: columns
+    property alias mainColumn: mainColumn
     property alias notice: notice
     property alias noticeCard: noticeCard
     property alias networkCard: networkCard
@@ -41,100 +42,93 @@ Rectangle {
             Layout.fillHeight: true
             maximumContentWidth: Style.wideContentWidth
 
-            GridLayout {
+            Item {
                 id: columns
-                columnSpacing: Style.spaceMedium
-                rowSpacing: Style.spaceMedium
+                height: childrenRect.height
 
-                ColumnLayout {
-                    Layout.fillWidth: true
-                    Layout.preferredWidth: 1
-                    Layout.alignment: Qt.AlignTop
+                Column {
+                    id: mainColumn
                     spacing: Style.spaceMedium
 
                     WidgetCard {
                         id: noticeCard
-                        Layout.fillWidth: true
+                        width: parent.width
 
                         WidgetNotice {
                             id: notice
                             objectName: "notice"
-                            Layout.fillWidth: true
+                            width: parent.width
                         }
                     }
 
                     WidgetNetworkCard {
                         id: networkCard
                         objectName: "networkCard"
-                        Layout.fillWidth: true
+                        width: parent.width
                     }
 
                     WidgetContentCard {
                         id: contentCard
                         objectName: "contentCard"
-                        Layout.fillWidth: true
+                        width: parent.width
                     }
 
-                    ColumnLayout {
+                    Column {
                         id: settings
-                        Layout.fillWidth: true
+                        width: parent.width
                         spacing: Style.spaceMedium
 
                         WidgetModeCard {
                             id: modeCard
                             objectName: "modeCard"
-                            Layout.fillWidth: true
+                            width: parent.width
                         }
 
-                        ColumnLayout {
+                        Column {
                             id: modeSettings
-                            Layout.fillWidth: true
-                            spacing: Style.spaceMedium
+                            width: parent.width
 
                             WidgetCodedVideoCard {
                                 id: codedVideoCard
                                 objectName: "codedVideoCard"
-                                Layout.fillWidth: true
+                                width: parent.width
                             }
 
                             WidgetAdaptiveAudioCard {
                                 id: adaptiveAudioCard
                                 objectName: "adaptiveAudioCard"
-                                Layout.fillWidth: true
+                                width: parent.width
                             }
 
                             WidgetAdaptiveGamingCard {
                                 id: adaptiveGamingCard
                                 objectName: "adaptiveGamingCard"
-                                Layout.fillWidth: true
+                                width: parent.width
                             }
 
                             WidgetCodedGamingCard {
                                 id: codedGamingCard
                                 objectName: "codedGamingCard"
-                                Layout.fillWidth: true
+                                width: parent.width
                             }
                         }
                     }
                 }
 
-                ColumnLayout {
+                Column {
                     id: outputs
-                    Layout.fillWidth: true
-                    Layout.preferredWidth: 1
-                    Layout.alignment: Qt.AlignTop
                     spacing: Style.spaceMedium
 
                     WidgetHapticCard {
                         id: hapticCard
                         objectName: "hapticCard"
-                        Layout.fillWidth: true
+                        width: parent.width
                     }
 
                     WidgetSoftwareCard {
                         id: softwareCard
                         objectName: "softwareCard"
-                        Layout.fillWidth: true
+                        width: parent.width
                     }
                 }
             }

@@ -7,7 +7,7 @@ Rectangle {
 
     // Columns beside each other, or a title with the rest below it.
     property bool isTable: true
-    property int columnWidth: 140
+    property int columnWidth: 124
     property alias pageTitle: pageTitle
     property alias filterText: searchField.text
     property alias searchField: searchField

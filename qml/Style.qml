@@ -22,8 +22,8 @@ QtObject {
     readonly property color accentPressed: "#38b0d6"
 
     readonly property color attention: "#f5b95a"
-    readonly property color good: "#7fd89a"
-    readonly property color error: "#ff9a8f"
+    readonly property color good: "#7bd88f"
+    readonly property color error: "#ff8f85"
 
     // Space, in steps of 4.
     readonly property int spaceTiny: 4
@@ -43,6 +43,7 @@ QtObject {
     readonly property int smallSymbol: 20
     readonly property int sliderHandle: 22
     readonly property int listRowHeight: 60
+    readonly property int detailRowHeight: 48
     readonly property int contentWidth: 680
     readonly property int formWidth: 480
     readonly property int wideContentWidth: 1180
@@ -83,6 +84,7 @@ QtObject {
 
     readonly property url symbolChevronDown: "qrc:/qml/images/chevron-down.svg"
     readonly property url symbolChevronRight: "qrc:/qml/images/chevron-right.svg"
+    readonly property url symbolSortNone: "qrc:/qml/images/sort-none.svg"
     readonly property url symbolSortAscending: "qrc:/qml/images/sort-ascending.svg"
     readonly property url symbolSortDescending: "qrc:/qml/images/sort-descending.svg"
     readonly property url symbolClear: "qrc:/qml/images/clear.svg"

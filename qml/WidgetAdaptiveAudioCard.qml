@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // The settings of the mode that makes motion from sound.
@@ -21,14 +20,14 @@ WidgetCard {
 
     WidgetAudioSource {
         id: audioSource
-        Layout.fillWidth: true
+        width: parent.width
         settling: root.settling
     }
 
     WidgetSettingSlider {
         id: volume
         objectName: "captureVolume"
-        Layout.fillWidth: true
+        width: parent.width
         label: qsTr("Audio Source Level:")
         valueText: qsTr("%1 dB")
         stepSize: Math.max(1, root.volumeStep)
@@ -39,7 +38,7 @@ WidgetCard {
 
     WidgetSettingSwitch {
         objectName: "ignoresVoice"
-        Layout.fillWidth: true
+        width: parent.width
         label: qsTr("Ignore Central Audio (Voice)")
         unitValue: root.ignoresVoice
         settling: root.settling

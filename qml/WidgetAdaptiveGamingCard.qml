@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // The settings of the mode that makes motion from a game's input.
@@ -12,13 +11,13 @@ WidgetCard {
     title: qsTr("Adaptive Gaming Configuration")
 
     WidgetText {
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Selected Profile:")
     }
 
     WidgetText {
         objectName: "profileName"
-        Layout.fillWidth: true
+        width: parent.width
         text: root.profile.length > 0 ? root.profile : qsTr("No Profile selected")
         maximumLineCount: 2
         elide: Text.ElideRight
@@ -29,8 +28,7 @@ WidgetCard {
     WidgetCompanion {
         id: companion
         objectName: "adaptiveGamingApp"
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
         buttonText: qsTr("Open Adaptive Gaming Configurator")
         hint: qsTr("Open Orvex Adaptive Gaming Configurator on your PC.")
     }

@@ -1,9 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // Which sound the unit listens to.
-ColumnLayout {
+Column {
     id: root
 
     property var devices: []
@@ -15,7 +14,7 @@ ColumnLayout {
     WidgetSettingChoice {
         objectName: "audioSource"
         visible: root.devices.length > 0
-        Layout.fillWidth: true
+        width: parent.width
         label: qsTr("Audio Source:")
         choices: root.devices
         unitValue: root.deviceIndex
@@ -26,14 +25,14 @@ ColumnLayout {
     WidgetStatus {
         objectName: "noAudioSource"
         visible: root.devices.length === 0
-        Layout.fillWidth: true
+        width: parent.width
         statusType: 0
         text: qsTr("Audio Source: None")
     }
 
     WidgetText {
         visible: root.devices.length === 0
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Connect a sound source to the device, or a microphone or sound card to the PC.")
         color: Style.textSecondary
         font.pixelSize: Style.fontSmall

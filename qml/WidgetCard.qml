@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // One subject of a page: a heading and what belongs to it, below each other.
@@ -23,7 +22,7 @@ Rectangle {
     Accessible.role: Accessible.Grouping
     Accessible.name: root.title
 
-    ColumnLayout {
+    Column {
         id: column
         anchors.left: parent.left
         anchors.right: parent.right
@@ -34,7 +33,7 @@ Rectangle {
         WidgetCardTitle {
             id: cardTitle
             visible: text.length > 0
-            Layout.fillWidth: true
+            width: parent.width
             onInfoIconClicked: root.infoIconClicked()
         }
     }

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // The settings of the mode for coded games.
@@ -13,7 +12,7 @@ WidgetCard {
     WidgetCompanion {
         id: companion
         objectName: "codedGamingApp"
-        Layout.fillWidth: true
+        width: parent.width
         buttonText: qsTr("Open Game Center")
         hint: qsTr("Open Orvex Game Center on your PC.")
     }

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // The settings of the mode for coded films.
@@ -28,13 +27,13 @@ WidgetCard {
 
     WidgetAudioSource {
         id: audioSource
-        Layout.fillWidth: true
+        width: parent.width
         settling: root.settling
     }
 
     WidgetSettingSwitch {
         objectName: "automaticVolume"
-        Layout.fillWidth: true
+        width: parent.width
         enabled: !root.isOutput
         label: qsTr("Automatic Input Level Control")
         description: root.isOutput ? qsTr("Always on for a source that is an output.") : ""
@@ -45,7 +44,7 @@ WidgetCard {
 
     WidgetSettingSlider {
         objectName: "motionDelay"
-        Layout.fillWidth: true
+        width: parent.width
         label: qsTr("Haptic Delay Calibration:")
         valueText: qsTr("%1 ms")
         description: qsTr("Moves the haptic effects later or earlier than the picture")
@@ -59,7 +58,7 @@ WidgetCard {
 
     WidgetSettingSlider {
         objectName: "recognitionTolerance"
-        Layout.fillWidth: true
+        width: parent.width
         label: qsTr("Recognition Tolerance:")
         valueText: qsTr("%1 sec")
         description: qsTr("How long the haptic effects go on when the sound is not recognised")
@@ -72,15 +71,13 @@ WidgetCard {
 
     WidgetMediaCard {
         id: media
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
     }
 
     ButtonText {
         objectName: "mediaListButton"
         primary: false
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
         text: qsTr("List of ORVEX Coded Titles")
         onClicked: root.mediaListClicked()
     }

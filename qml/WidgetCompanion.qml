@@ -1,9 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // The way to another program on this PC.
-ColumnLayout {
+Column {
     id: root
 
     property alias buttonText: button.text
@@ -21,14 +20,14 @@ ColumnLayout {
         id: button
         objectName: "companionButton"
         primary: false
-        Layout.fillWidth: true
+        width: parent.width
         enabled: root.isInstalled
         Accessible.description: root.hint
         onClicked: root.clicked()
     }
 
     WidgetText {
-        Layout.fillWidth: true
+        width: parent.width
         text: root.hint
         color: Style.textSecondary
         font.pixelSize: Style.fontSmall
@@ -38,7 +37,7 @@ ColumnLayout {
     WidgetText {
         objectName: "companionMissing"
         visible: !root.isInstalled
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("It is not installed on this PC.")
         color: Style.textSecondary
         font.pixelSize: Style.fontSmall
@@ -48,7 +47,7 @@ ColumnLayout {
     WidgetStatus {
         objectName: "companionFailed"
         visible: root.hasFailed
-        Layout.fillWidth: true
+        width: parent.width
         statusType: 1
         text: qsTr("The program did not start. Try again, or install it anew.")
         Accessible.role: Accessible.AlertMessage

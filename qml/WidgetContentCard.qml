@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // The unit's library of titles, and whether it is up to date.
@@ -14,14 +13,14 @@ WidgetCard {
 
     WidgetStatus {
         objectName: "contentUpdateState"
-        Layout.fillWidth: true
+        width: parent.width
         statusType: root.updateType
         text: root.updateText
     }
 
     WidgetText {
         objectName: "lastUpdated"
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Last Updated: %1").arg(root.updateTime)
         color: Style.textSecondary
     }

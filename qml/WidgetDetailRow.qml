@@ -17,7 +17,7 @@ Item {
     readonly property int indent: Math.min(level * Style.spaceLarge, width / 3)
     readonly property int nameWidth: valueText.text.length > 0 ? (width - nameText.x) * 0.55 : width - nameText.x - Style.spaceSmall
 
-    height: Style.listRowHeight
+    height: Style.detailRowHeight
     Accessible.role: Accessible.ListItem
     Accessible.name: root.value.length > 0 ? qsTr("%1: %2").arg(root.name).arg(root.value) : root.name
     Accessible.description: root.look.meaning
@@ -53,7 +53,7 @@ Item {
     WidgetText {
         id: nameText
         objectName: "nameText"
-        x: root.indent + Style.spaceSmall + (symbol.visible ? Style.smallSymbol + Style.spaceSmall : 0)
+        x: symbol.x + Style.smallSymbol + Style.spaceSmall
         width: root.nameWidth
         height: parent.height
         text: root.name

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // The seats, and the program that configures them.
@@ -15,7 +14,7 @@ WidgetCard {
     title: qsTr("Haptic Output")
 
     WidgetText {
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Haptic Seats")
         color: Style.textSecondary
     }
@@ -23,14 +22,14 @@ WidgetCard {
     WidgetStatus {
         objectName: "noSeat"
         visible: repeater.count === 0
-        Layout.fillWidth: true
+        width: parent.width
         statusType: 1
         text: qsTr("No Seat Detected")
     }
 
     WidgetText {
         visible: repeater.count === 0
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Check that the seat has power and that its cable is plugged in.")
         color: Style.textSecondary
         font.pixelSize: Style.fontSmall
@@ -39,24 +38,24 @@ WidgetCard {
     Repeater {
         id: repeater
 
-        ColumnLayout {
+        Column {
             id: row
 
             // By way of the model: one of its roles is named like a delegate's own row number.
             required property var model
 
-            Layout.fillWidth: true
+            width: parent.width
             spacing: Style.spaceSmall
 
             Rectangle {
-                Layout.fillWidth: true
-                Layout.preferredHeight: 1
+                width: parent.width
+                height: 1
                 color: Style.outline
             }
 
             WidgetSeat {
                 objectName: "seat"
-                Layout.fillWidth: true
+                width: parent.width
                 seatIndex: row.model.index
                 isAddressable: row.model.active
                 statusType: row.model.statusType
@@ -76,16 +75,15 @@ WidgetCard {
     }
 
     Rectangle {
-        Layout.fillWidth: true
-        Layout.preferredHeight: 1
+        width: parent.width
+        height: 1
         color: Style.outline
     }
 
     WidgetCompanion {
         id: companion
         objectName: "controlPanelApp"
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
         buttonText: qsTr("Open Control Panel")
         hint: qsTr("Open Orvex Control Panel on your PC.")
     }

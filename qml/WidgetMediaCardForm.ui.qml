@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import "."
 
-ColumnLayout {
+Column {
     id: form
 
     property string progressName
@@ -20,30 +20,30 @@ ColumnLayout {
 
     WidgetText {
         id: heading
-        Layout.fillWidth: true
+        width: parent.width
     }
 
     WidgetText {
         id: title
         objectName: "mediaTitle"
-        Layout.fillWidth: true
+        width: parent.width
         maximumLineCount: 2
         elide: Text.ElideRight
     }
 
     WidgetStatus {
         id: audioSource
-        Layout.fillWidth: true
+        width: parent.width
     }
 
     WidgetStatus {
         id: motionCode
-        Layout.fillWidth: true
+        width: parent.width
     }
 
     RowLayout {
         id: progress
-        Layout.fillWidth: true
+        width: parent.width
         spacing: Style.spaceMedium
 
         WidgetText {

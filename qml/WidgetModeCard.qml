@@ -35,7 +35,7 @@ WidgetCard {
 
     WidgetSettingChoice {
         objectName: "modeChoice"
-        Layout.fillWidth: true
+        width: parent.width
         enabled: !root.inTransition && root.modes.length > 0
         accessibleName: root.title
         description: root.description
@@ -47,7 +47,7 @@ WidgetCard {
 
     WidgetText {
         objectName: "modeDescription"
-        Layout.fillWidth: true
+        width: parent.width
         text: root.description
         color: Style.textSecondary
     }
@@ -55,7 +55,7 @@ WidgetCard {
     RowLayout {
         objectName: "modeTransition"
         visible: root.inTransition
-        Layout.fillWidth: true
+        width: parent.width
         spacing: Style.spaceMedium
         Accessible.role: Accessible.AlertMessage
         Accessible.name: transitionText.text
@@ -73,7 +73,7 @@ WidgetCard {
     WidgetStatus {
         objectName: "modeError"
         visible: !root.inTransition && root.errorMessage.length > 0 && root.errorMessage !== root.noError
-        Layout.fillWidth: true
+        width: parent.width
         statusType: 1
         text: root.errorMessage
         Accessible.role: Accessible.AlertMessage
@@ -83,7 +83,7 @@ WidgetCard {
         id: announcement
         objectName: "modeAnnouncement"
         visible: false
-        Layout.fillWidth: true
+        width: parent.width
         statusType: 3
         text: qsTr("The mode is now %1.").arg(root.modeName)
         Accessible.role: Accessible.AlertMessage

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // Whether and how the unit is connected.
@@ -19,14 +18,14 @@ WidgetCard {
 
     WidgetStatus {
         objectName: "onlineStatus"
-        Layout.fillWidth: true
+        width: parent.width
         statusType: root.online ? 3 : 1
         text: root.online ? qsTr("Device Online") : qsTr("Device Offline")
     }
 
     WidgetText {
         visible: root.activeInterfaces.length > 0 && root.ssid.length > 0
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("%1: %2").arg(qsTr("Wi-Fi Network")).arg(root.ssid)
         maximumLineCount: 2
         elide: Text.ElideRight
@@ -39,7 +38,7 @@ WidgetCard {
         WidgetText {
             required property var modelData
 
-            Layout.fillWidth: true
+            width: parent.width
             text: qsTr("%1: %2").arg(modelData.name).arg(modelData.ip)
             maximumLineCount: 2
             elide: Text.ElideRight

@@ -1,9 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // What is the matter, and what to do about it. A screen reader speaks it when it appears.
-ColumnLayout {
+Column {
     id: root
 
     property string heading
@@ -12,20 +11,20 @@ ColumnLayout {
     property bool isWaiting: false
 
     spacing: Style.spaceSmall
+    padding: Style.spaceSmall
     Accessible.role: Accessible.AlertMessage
     Accessible.name: root.heading.length > 0 ? root.heading : root.text
     Accessible.description: root.heading.length > 0 ? root.text : ""
 
     WidgetBusy {
+        objectName: "busy"
         visible: root.isWaiting
-        Layout.alignment: Qt.AlignHCenter
-        Layout.topMargin: Style.spaceSmall
-        Layout.bottomMargin: Style.spaceSmall
+        anchors.horizontalCenter: parent.horizontalCenter
     }
 
     Image {
-        visible: !root.isWaiting && source != ""
-        Layout.alignment: Qt.AlignHCenter
+        visible: !root.isWaiting
+        anchors.horizontalCenter: parent.horizontalCenter
         source: root.symbol
         sourceSize.width: Style.deviceIcon / 2
         sourceSize.height: Style.deviceIcon / 2
@@ -33,7 +32,7 @@ ColumnLayout {
 
     WidgetText {
         objectName: "noticeHeading"
-        Layout.fillWidth: true
+        width: parent.width - 2 * parent.padding
         visible: text.length > 0
         text: root.heading
         horizontalAlignment: Text.AlignHCenter
@@ -43,7 +42,7 @@ ColumnLayout {
 
     WidgetText {
         objectName: "noticeText"
-        Layout.fillWidth: true
+        width: parent.width - 2 * parent.padding
         visible: text.length > 0
         text: root.text
         horizontalAlignment: Text.AlignHCenter

@@ -1,8 +1,7 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
-ColumnLayout {
+Column {
     property alias heading: heading
     property alias health: health
     property alias controls: controls
@@ -15,45 +14,45 @@ ColumnLayout {
 
     WidgetText {
         id: heading
-        Layout.fillWidth: true
+        width: parent.width
         font.weight: Font.Medium
     }
 
     WidgetSeatHealth {
         id: health
         objectName: "seatHealth"
-        Layout.fillWidth: true
-        Layout.leftMargin: -Style.spaceSmall
-        Layout.rightMargin: -Style.spaceSmall
+        // Its surface reaches into the margin, so that the symbol stands flush with what is below.
+        x: -Style.spaceSmall
+        width: parent.width + 2 * Style.spaceSmall
     }
 
-    ColumnLayout {
+    Column {
         id: controls
-        Layout.fillWidth: true
+        width: parent.width
         spacing: Style.spaceSmall
 
         WidgetSettingSwitch {
             id: muted
             objectName: "muted"
-            Layout.fillWidth: true
+            width: parent.width
         }
 
         WidgetSettingSlider {
             id: motion
             objectName: "motion"
-            Layout.fillWidth: true
+            width: parent.width
         }
 
         WidgetSettingSlider {
             id: vibration
             objectName: "vibration"
-            Layout.fillWidth: true
+            width: parent.width
         }
 
         WidgetSettingSwitch {
             id: locked
             objectName: "locked"
-            Layout.fillWidth: true
+            width: parent.width
         }
     }
 }

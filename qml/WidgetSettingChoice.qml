@@ -1,9 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // One of several things that the unit can do, by its position in the unit's list.
-ColumnLayout {
+Column {
     id: root
 
     property string label
@@ -27,15 +26,16 @@ ColumnLayout {
     }
 
     WidgetText {
-        Layout.fillWidth: true
+        width: parent.width
         visible: text.length > 0
         text: root.label
+        opacity: root.enabled ? 1 : 0.5
     }
 
     WidgetComboBox {
         id: comboBox
         objectName: "comboBox"
-        Layout.fillWidth: true
+        width: parent.width
         // Also when the choices change: they reset what is chosen.
         currentIndex: comboBox.model, held.value
         accessibleName: root.accessibleName
@@ -51,6 +51,6 @@ ColumnLayout {
 
     WidgetRefusal {
         visible: held.wasRefused && root.tellsRefusal
-        Layout.fillWidth: true
+        width: parent.width
     }
 }

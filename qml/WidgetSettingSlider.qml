@@ -4,7 +4,7 @@ import "."
 
 // A number of the unit that can be set: its name, its value, and a slider. The value is handed on when the user lets
 // go, not on the way.
-ColumnLayout {
+Column {
     id: root
 
     property string label
@@ -31,8 +31,9 @@ ColumnLayout {
     }
 
     RowLayout {
-        Layout.fillWidth: true
+        width: parent.width
         spacing: Style.spaceMedium
+        opacity: root.enabled ? 1 : 0.5
 
         WidgetText {
             Layout.fillWidth: true
@@ -49,7 +50,7 @@ ColumnLayout {
     WidgetSlider {
         id: slider
         objectName: "slider"
-        Layout.fillWidth: true
+        width: parent.width
         stepSize: 1
         // Also when the bounds move: they cut the value off that is there, and do not bring it back.
         value: root.from, root.to, held.value
@@ -70,6 +71,6 @@ ColumnLayout {
 
     WidgetRefusal {
         visible: held.wasRefused
-        Layout.fillWidth: true
+        width: parent.width
     }
 }

@@ -3,7 +3,7 @@ import QtQuick.Layouts 1.15
 import "."
 
 // Something of the unit that is on or off.
-ColumnLayout {
+Column {
     id: root
 
     property alias label: labelText.text
@@ -23,7 +23,7 @@ ColumnLayout {
     }
 
     RowLayout {
-        Layout.fillWidth: true
+        width: parent.width
         spacing: Style.spaceMedium
         opacity: root.enabled ? 1 : 0.5
 
@@ -55,7 +55,7 @@ ColumnLayout {
     }
 
     WidgetText {
-        Layout.fillWidth: true
+        width: parent.width
         visible: text.length > 0
         text: root.description
         color: Style.textSecondary
@@ -64,6 +64,6 @@ ColumnLayout {
 
     WidgetRefusal {
         visible: held.wasRefused
-        Layout.fillWidth: true
+        width: parent.width
     }
 }

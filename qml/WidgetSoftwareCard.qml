@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // How the unit's programs are, and what to do about one that is not well.
@@ -14,24 +13,24 @@ WidgetCard {
     Repeater {
         model: root.programs
 
-        ColumnLayout {
+        Column {
             id: entry
 
             required property var modelData
 
             objectName: "program"
-            Layout.fillWidth: true
+            width: parent.width
             spacing: Style.spaceTiny
 
             WidgetText {
-                Layout.fillWidth: true
+                width: parent.width
                 text: entry.modelData.softwareName
                 maximumLineCount: 2
                 elide: Text.ElideRight
             }
 
             WidgetStatus {
-                Layout.fillWidth: true
+                width: parent.width
                 statusType: entry.modelData.status
                 text: entry.modelData.statusMessage.length > 0 ? entry.modelData.statusMessage : look.meaning
             }
@@ -39,7 +38,7 @@ WidgetCard {
             WidgetText {
                 objectName: "programHint"
                 visible: text.length > 0
-                Layout.fillWidth: true
+                width: parent.width
                 text: entry.modelData.errorHintMessage
                 color: Style.textSecondary
                 font.pixelSize: Style.fontSmall

@@ -52,8 +52,7 @@ T.AbstractButton {
 
         Image {
             objectName: "sortDirection"
-            visible: root.isSorted
-            source: root.isDescending ? Style.symbolSortDescending : Style.symbolSortAscending
+            source: !root.isSorted ? Style.symbolSortNone : root.isDescending ? Style.symbolSortDescending : Style.symbolSortAscending
             sourceSize.width: Style.spaceMedium
             sourceSize.height: Style.spaceMedium
         }

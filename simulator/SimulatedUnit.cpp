@@ -241,8 +241,7 @@ void SimulatedUnit::rename(const std::string& name) {
         throw std::invalid_argument(complaint);
     changeState([&name](UnitState& state) {
         state.name = name;
-        const rapidjson::Document none(rapidjson::kObjectType);
-        state.notifications.push_back({"GetKelmName", getKelmName(state, {"GetKelmName", none}).body});
+        tell(state, "GetKelmName");
     });
 }
 

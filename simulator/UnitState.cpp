@@ -4,10 +4,13 @@
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <string_view>
 
 namespace Simulator {
 
 namespace {
+
+constexpr int noSeatFound = 910; ///< status of a mode change
 
 /// A locally administered hardware address that stays the same for a serial number.
 std::string hardwareAddress(const std::string& serial, unsigned int interface) {
@@ -44,6 +47,19 @@ NetworkState ownAccessPoint(const UnitOptions& options) {
     return network;
 }
 
+AudioState firstAudio(const Product& product) {
+    AudioState audio;
+    audio.devices = {{"HDMI Input", "Sound of the player on HDMI 1", "hdmi-in-1", "HDMI", false, true},
+                     {"Line Input", "Analogue input on the back", "line-in", "Analogue", false, true},
+                     {"Optical Input", "Digital input on the back", "optical-in", "S/PDIF", false, false},
+                     {"Speakers", "Sound that this unit plays", "speakers-out", "Analogue", true, true}};
+    if (std::string_view(product.key) == "ruvello")
+        audio.devices = {{"Microphone", "Built-in microphone", "microphone", "Internal", false, true},
+                         {"Line Input", "Analogue input on the side", "line-in", "Analogue", false, true}};
+    audio.selected = audio.devices.front().identification;
+    return audio;
+}
+
 } // namespace
 
 UnitState initialState(const UnitOptions& options) {
@@ -51,6 +67,19 @@ UnitState initialState(const UnitOptions& options) {
     state.name = options.name;
     state.network = options.accessPoint ? ownAccessPoint(options) : joinedNetwork(options);
     state.media.count = options.media;
+    const Product& product = *findProduct(options.product);
+    state.audio = firstAudio(product);
+    if (options.product == "ruvello")
+        state.experience.modes = {2, 3};
+    state.experience.selected = state.experience.modes.front();
+    state.seats.resize(options.seats);
+    for (std::size_t i = 0; i < options.seats; ++i)
+        state.seats[i].index = static_cast<int>(i) + 1;
+    if (options.seats == 0) {
+        state.experience.status = noSeatFound;
+        state.experience.failure = noSeatFound;
+        state.experience.message = "No seat was found";
+    }
     return state;
 }
 

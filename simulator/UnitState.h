@@ -4,6 +4,8 @@
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -14,7 +16,7 @@ struct UnitState;
 /// A change of state that comes by itself some time after another.
 struct Step {
     std::chrono::milliseconds delay{0};
-    void (*change)(UnitState&) = nullptr;
+    std::function<void(UnitState&)> change;
 };
 
 /// A notification nobody asked for.
@@ -65,6 +67,63 @@ struct MediaState {
     std::size_t count = 0;
 };
 
+struct CaptureDevice {
+    std::string name;
+    std::string description;
+    std::string identification;
+    std::string interfaceName;
+    bool loopback = false; ///< the sound that another device plays, rather than what comes in
+    bool connected = true;
+};
+
+/// Where the unit takes the sound from, and how.
+struct AudioState {
+    std::vector<CaptureDevice> devices;
+    std::string selected;        ///< `identification` of a device; empty for none
+    std::string mode = "manual"; ///< "manual" or "automatic": who selects the device
+    bool automaticVolume = true;
+    int preMixType = 0;         ///< 1: central audio (voice) is ignored
+    std::map<int, int> volumes; ///< dB, for each experience mode; 0 where there is none
+    int minimumVolume = -20;
+    int maximumVolume = 20;
+    int volumeStep = 1;
+
+    int volumeIn(int experienceMode) const {
+        const auto found = volumes.find(experienceMode);
+        return found == volumes.end() ? 0 : found->second;
+    }
+};
+
+/// What the seats play: 0 coded video, 1 coded gaming, 2 adaptive audio, 3 adaptive gaming.
+struct ExperienceState {
+    std::vector<int> modes{0, 1, 2, 3};
+    int selected = 0;
+    std::string state = "On"; ///< or "Transitioning"
+    int status = 0;           ///< 0, or what went wrong with the latest change
+    std::string message = "Ok";
+
+    std::chrono::milliseconds transition{1500}; ///< how long a change takes
+    int failure = 0;                            ///< every change ends with this status; 0: it succeeds
+};
+
+/// A seat's overall state; the values are those of the line.
+enum class SeatCondition {
+    Ok = 0,
+    Fault = 10,
+    Transition = 20,
+    NoPower = 30,         ///< or an actuator is unplugged
+    NoCommunication = 40, ///< takes no settings
+};
+
+struct SeatState {
+    int index = 1; ///< counts from 1
+    bool muted = false;
+    bool chained = false; ///< motion and vibration are moved together
+    double motion = -6;   ///< dB, -20 to 0, as vibration
+    double vibration = -6;
+    SeatCondition condition = SeatCondition::Ok;
+};
+
 /// What a unit knows and remembers. Answers read and change it; what is to follow by itself goes into
 /// `steps`, what other clients should hear of into `notifications`, and the unit takes both out after every
 /// change.
@@ -74,6 +133,11 @@ struct UnitState {
     SoftwareState software;
     ContentState content;
     MediaState media;
+    AudioState audio;
+    ExperienceState experience;
+    std::vector<SeatState> seats;
+    int motionDelay = 0;           ///< ms, -1000 to 1000
+    int recognitionTolerance = 10; ///< s, 0 to 60
 
     std::vector<Step> steps;
     std::vector<Notification> notifications;

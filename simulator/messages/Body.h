@@ -4,6 +4,7 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include <cmath>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,11 @@ public:
     Body& integer(const char* key, int value) {
         m_writer.Key(key);
         m_writer.Int(value);
+        return *this;
+    }
+    Body& number(const char* key, double value) {
+        m_writer.Key(key);
+        m_writer.Double(value);
         return *this;
     }
     Body& object(const char* key) {
@@ -64,12 +70,39 @@ private:
     rapidjson::Writer<rapidjson::StringBuffer> m_writer{m_buffer};
 };
 
-/// A text member of a request's body; none when it is missing or something else.
+/// A member of a request's body; each is none when it is missing or something else.
 inline std::optional<std::string> textIn(const rapidjson::Value& body, const char* key) {
     const auto found = body.FindMember(key);
     if (found == body.MemberEnd() || !found->value.IsString())
         return std::nullopt;
     return std::string(found->value.GetString(), found->value.GetStringLength());
+}
+
+/// A number without fraction within 32 bits.
+inline std::optional<int> integerIn(const rapidjson::Value& body, const char* key) {
+    const auto found = body.FindMember(key);
+    if (found == body.MemberEnd() || !found->value.IsInt())
+        return std::nullopt;
+    return found->value.GetInt();
+}
+
+inline std::optional<double> numberIn(const rapidjson::Value& body, const char* key) {
+    const auto found = body.FindMember(key);
+    if (found == body.MemberEnd() || !found->value.IsNumber() || !std::isfinite(found->value.GetDouble()))
+        return std::nullopt;
+    return found->value.GetDouble();
+}
+
+inline std::optional<bool> flagIn(const rapidjson::Value& body, const char* key) {
+    const auto found = body.FindMember(key);
+    if (found == body.MemberEnd() || !found->value.IsBool())
+        return std::nullopt;
+    return found->value.GetBool();
+}
+
+inline const rapidjson::Value* objectIn(const rapidjson::Value& body, const char* key) {
+    const auto found = body.FindMember(key);
+    return found == body.MemberEnd() || !found->value.IsObject() ? nullptr : &found->value;
 }
 
 } // namespace Simulator

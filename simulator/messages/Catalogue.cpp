@@ -21,6 +21,22 @@ constexpr std::array catalogue{
     Message{"GetContentUpdateState", getContentUpdateState},
     Message{"RequestContentUpdate", requestContentUpdate},
     Message{"GetMediaListNotification", getMediaList},
+    Message{"GetCaptureDevices", getCaptureDevices},
+    Message{"SetCaptureDevicesMode", setCaptureDevicesMode},
+    Message{"GetCaptureVolume", getCaptureVolume},
+    Message{"SetCaptureVolume", setCaptureVolume},
+    Message{"GetAutomaticVolumeControl", getAutomaticVolumeControl},
+    Message{"SetAutomaticVolumeControl", setAutomaticVolumeControl},
+    Message{"GetAdaptiveAudioParameters", getAdaptiveAudioParameters},
+    Message{"SetAdaptiveAudioParameters", setAdaptiveAudioParameters},
+    Message{"GetExperienceModes", getExperienceModes},
+    Message{"SetExperienceMode", setExperienceMode},
+    Message{"GetSeatStatus", getSeatStatus},
+    Message{"SetSeatSetting", setSeatSetting},
+    Message{"GetMotionDelay", getMotionDelay},
+    Message{"SetMotionDelay", setMotionDelay},
+    Message{"GetRecognitionTolerance", getRecognitionTolerance},
+    Message{"SetRecognitionTolerance", setRecognitionTolerance},
 };
 
 const Message* find(std::string_view type) {
@@ -45,6 +61,10 @@ Answer answerTo(UnitState& state, std::string_view type, std::string_view body) 
     if (document.HasParseError() || !document.IsObject())
         return refusal(Status::Malformed, "the body is not one JSON object");
     return message->answer(state, Request{type, document});
+}
+
+void tell(UnitState& state, std::string_view type) {
+    state.notifications.push_back({std::string(type), answerTo(state, type, {}).body});
 }
 
 } // namespace Simulator

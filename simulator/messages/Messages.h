@@ -27,6 +27,23 @@ inline Answer refusal(Status status, std::string why) {
     return {status, std::move(why), {}};
 }
 
+inline Answer answered(std::string body = {}) {
+    return {Status::Ok, {}, std::move(body)};
+}
+
+/// A member is missing or of the wrong type.
+inline Answer malformed(const std::string& member, const std::string& needed) {
+    return refusal(Status::Malformed, member + ": " + needed + " is needed");
+}
+
+/// The value of a member cannot be taken.
+inline Answer refused(const std::string& member, const std::string& why) {
+    return refusal(Status::Refused, member + ": " + why);
+}
+
+/// Lets the other clients hear what the Get message of this type would answer now.
+void tell(UnitState& state, std::string_view type);
+
 /// Looks the message up in the catalogue and lets it answer. `body` is the request's raw body.
 Answer answerTo(UnitState& state, std::string_view type, std::string_view body);
 
@@ -43,5 +60,28 @@ Answer getContentUpdateState(UnitState& state, const Request& request);
 Answer requestContentUpdate(UnitState& state, const Request& request);
 
 Answer getMediaList(UnitState& state, const Request& request);
+
+Answer getCaptureDevices(UnitState& state, const Request& request);
+Answer setCaptureDevicesMode(UnitState& state, const Request& request);
+Answer getCaptureVolume(UnitState& state, const Request& request);
+Answer setCaptureVolume(UnitState& state, const Request& request);
+Answer getAutomaticVolumeControl(UnitState& state, const Request& request);
+Answer setAutomaticVolumeControl(UnitState& state, const Request& request);
+Answer getAdaptiveAudioParameters(UnitState& state, const Request& request);
+Answer setAdaptiveAudioParameters(UnitState& state, const Request& request);
+
+Answer getExperienceModes(UnitState& state, const Request& request);
+Answer setExperienceMode(UnitState& state, const Request& request);
+/// What the unit says about the status of a mode change; 0 is "Ok".
+std::string messageOfModeStatus(int status);
+
+Answer getSeatStatus(UnitState& state, const Request& request);
+Answer setSeatSetting(UnitState& state, const Request& request);
+Answer getMotionDelay(UnitState& state, const Request& request);
+Answer setMotionDelay(UnitState& state, const Request& request);
+Answer getRecognitionTolerance(UnitState& state, const Request& request);
+Answer setRecognitionTolerance(UnitState& state, const Request& request);
+/// A seat's condition in words.
+std::string describe(SeatCondition condition);
 
 } // namespace Simulator

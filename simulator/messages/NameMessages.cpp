@@ -14,7 +14,7 @@ Answer setKelmName(UnitState& state, const Request& request) {
     if (const std::string complaint = complaintAboutName(*name); !complaint.empty())
         return refusal(Status::Refused, "kelmName: " + complaint);
     state.name = *name;
-    state.notifications.push_back({"GetKelmName", Body().text("kelmName", state.name).finish()});
+    tell(state, "GetKelmName");
     return {};
 }
 
