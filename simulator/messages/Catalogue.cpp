@@ -37,6 +37,12 @@ constexpr std::array catalogue{
     Message{"SetMotionDelay", setMotionDelay},
     Message{"GetRecognitionTolerance", getRecognitionTolerance},
     Message{"SetRecognitionTolerance", setRecognitionTolerance},
+    Message{"GetHapticSystemStatus", getHapticSystemStatus},
+    Message{"GetSoftwareHealthStatus", getSoftwareHealthStatus},
+    Message{"GetAdaptiveGamingSelectedProfile", getAdaptiveGamingSelectedProfile},
+    Message{"GetMediaStatus", getMediaStatus},
+    Message{"GetWifiList", getWifiList},
+    Message{"SetWifiSetting", setWifiSetting},
 };
 
 const Message* find(std::string_view type) {

@@ -21,14 +21,15 @@ struct Answer {
     Status status = Status::Ok;
     std::string text; ///< why not, for people
     std::string body;
+    bool withheld = false; ///< done, but the client never hears of it
 };
 
 inline Answer refusal(Status status, std::string why) {
-    return {status, std::move(why), {}};
+    return {status, std::move(why), {}, false};
 }
 
 inline Answer answered(std::string body = {}) {
-    return {Status::Ok, {}, std::move(body)};
+    return {Status::Ok, {}, std::move(body), false};
 }
 
 /// A member is missing or of the wrong type.
@@ -83,5 +84,19 @@ Answer getRecognitionTolerance(UnitState& state, const Request& request);
 Answer setRecognitionTolerance(UnitState& state, const Request& request);
 /// A seat's condition in words.
 std::string describe(SeatCondition condition);
+
+Answer getHapticSystemStatus(UnitState& state, const Request& request);
+Answer getSoftwareHealthStatus(UnitState& state, const Request& request);
+Answer getAdaptiveGamingSelectedProfile(UnitState& state, const Request& request);
+
+Answer getMediaStatus(UnitState& state, const Request& request);
+/// Plays the title of the list under this number, which starts again after its end; nothing when the list is
+/// empty.
+void playTitle(UnitState& state, std::size_t number);
+/// Counts the offset from now on. To be called after every change of what plays, and from where.
+void playFromHere(UnitState& state);
+
+Answer getWifiList(UnitState& state, const Request& request);
+Answer setWifiSetting(UnitState& state, const Request& request);
 
 } // namespace Simulator
