@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // Asks for one line of text.
@@ -19,14 +18,13 @@ PageFrame {
     WidgetInputText {
         id: input
         objectName: "input"
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
         onAccepted: root.buttonDoneClicked()
     }
 
     ButtonText {
         objectName: "doneButton"
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Done")
         onClicked: root.buttonDoneClicked()
     }

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 PageFrame {
@@ -14,31 +13,29 @@ PageFrame {
 
     WidgetNotice {
         id: statusNotice
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceLarge
-        Layout.bottomMargin: Style.spaceLarge
+        width: parent.width
     }
 
     WidgetCard {
         id: statusCard
-        Layout.fillWidth: true
+        width: parent.width
 
         WidgetStatus {
             id: connection
             objectName: "connectionStatus"
-            Layout.fillWidth: true
+            width: parent.width
         }
 
         WidgetStatus {
             id: accessPoint
             objectName: "accessPointStatus"
-            Layout.fillWidth: true
+            width: parent.width
         }
 
         WidgetLabeledText {
             id: network
             objectName: "networkName"
-            Layout.fillWidth: true
+            width: parent.width
         }
     }
 
@@ -48,7 +45,7 @@ PageFrame {
         WidgetNetworkInterface {
             required property var modelData
 
-            Layout.fillWidth: true
+            width: parent.width
             networkInterface: modelData
         }
     }
@@ -56,14 +53,13 @@ PageFrame {
     ButtonText {
         id: setUpButton
         objectName: "setUpButton"
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
     }
 
     ButtonText {
         id: resetButton
         objectName: "resetButton"
-        Layout.fillWidth: true
+        width: parent.width
         primary: false
     }
 }

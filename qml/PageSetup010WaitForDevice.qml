@@ -14,17 +14,17 @@ PageFrame {
 
     maximumContentWidth: Style.formWidth
     spacing: Style.spaceLarge
-    initialFocus: message
+    initialFocus: introduction
 
     WidgetText {
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        id: introduction
+        width: parent.width
         text: qsTr("Switch on your Quivera device, then connect this computer to it:")
         font.pixelSize: Style.fontTitle
     }
 
     WidgetCard {
-        Layout.fillWidth: true
+        width: parent.width
 
         Repeater {
             model: root.steps
@@ -33,7 +33,7 @@ PageFrame {
                 required property string modelData
                 required property int index
 
-                Layout.fillWidth: true
+                width: parent.width
                 spacing: Style.spaceMedium
                 Accessible.role: Accessible.ListItem
                 Accessible.name: qsTr("%1. %2").arg(index + 1).arg(modelData)
@@ -64,10 +64,10 @@ PageFrame {
     }
 
     WidgetCard {
-        Layout.fillWidth: true
+        width: parent.width
 
         WidgetLabeledText {
-            Layout.fillWidth: true
+            width: parent.width
             label: qsTr("Network Name")
             text: root.accessPointName
             symbol: Style.symbolWiFi
@@ -75,7 +75,7 @@ PageFrame {
 
         WidgetLabeledText {
             objectName: "accessPointPassword"
-            Layout.fillWidth: true
+            width: parent.width
             label: qsTr("Password")
             text: root.accessPointPassword
             symbol: Style.symbolEncrypted
@@ -84,14 +84,12 @@ PageFrame {
     }
 
     WidgetBusy {
-        Layout.alignment: Qt.AlignHCenter
-        Layout.topMargin: Style.spaceSmall
+        anchors.horizontalCenter: parent.horizontalCenter
     }
 
     WidgetText {
-        id: message
         objectName: "messageText"
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Searching for\nQuivera device...")
         horizontalAlignment: Text.AlignHCenter
         font.pixelSize: Style.fontTitle
