@@ -12,8 +12,8 @@ AbstractButton {
 
     readonly property color textColor: !enabled ? Style.textDisabled : primary ? Style.textOnAccent : Style.text
 
-    implicitWidth: content.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(Style.touchTarget, content.implicitHeight + topPadding + bottomPadding)
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(Style.touchTarget, implicitContentHeight + topPadding + bottomPadding)
     horizontalPadding: Style.spaceLarge
     verticalPadding: Style.spaceSmall
     hoverEnabled: true
@@ -38,35 +38,36 @@ AbstractButton {
         focused: root.visualFocus
     }
 
-    contentItem: Item {
-        implicitWidth: content.implicitWidth
-        implicitHeight: content.implicitHeight
+    contentItem: RowLayout {
+        spacing: Style.spaceSmall
 
-        RowLayout {
-            id: content
-            anchors.centerIn: parent
-            width: Math.min(parent.width, implicitWidth)
-            spacing: Style.spaceSmall
+        Item {
+            Layout.fillWidth: true
+        }
 
-            Image {
-                visible: status === Image.Ready
-                opacity: root.enabled ? 1 : 0.5
-                source: root.symbol
-                sourceSize.width: Style.symbol
-                sourceSize.height: Style.symbol
-            }
+        Image {
+            visible: root.symbol.toString().length > 0
+            opacity: root.enabled ? 1 : 0.5
+            source: root.symbol
+            sourceSize.width: Style.symbol
+            sourceSize.height: Style.symbol
+        }
 
-            Text {
-                Layout.fillWidth: true
-                text: root.text
-                textFormat: Text.PlainText
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
-                color: root.textColor
-                font.family: Style.fontFamily
-                font.pixelSize: Style.fontBody
-                font.weight: Font.Medium
-            }
+        Text {
+            Layout.fillWidth: true
+            Layout.maximumWidth: Math.ceil(implicitWidth)
+            text: root.text
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignHCenter
+            color: root.textColor
+            font.family: Style.fontFamily
+            font.pixelSize: Style.fontBody
+            font.weight: Font.Medium
+        }
+
+        Item {
+            Layout.fillWidth: true
         }
     }
 }

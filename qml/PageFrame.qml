@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // A page with a title bar and one column that scrolls when it is longer than the window.
@@ -25,33 +24,30 @@ Rectangle {
 
     color: Style.background
 
-    ColumnLayout {
+    WidgetPageTitle {
+        id: bar
+        anchors.left: parent.left
+        anchors.right: parent.right
+        canGoBack: true
+        onButtonBackClicked: root.buttonBackClicked()
+        onButtonRightClicked: root.buttonRightClicked()
+    }
+
+    WidgetScrollArea {
+        id: area
         anchors.fill: parent
-        spacing: 0
+        anchors.topMargin: bar.visible ? bar.height : 0
 
-        WidgetPageTitle {
-            id: bar
-            Layout.fillWidth: true
-            canGoBack: true
-            onButtonBackClicked: root.buttonBackClicked()
-            onButtonRightClicked: root.buttonRightClicked()
-        }
+        Item {
+            width: parent.width
+            height: root.centred ? Math.max(column.implicitHeight, area.height - 2 * Style.spaceMedium) : column.implicitHeight
 
-        WidgetScrollArea {
-            id: area
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-
-            Item {
+            Column {
+                id: column
+                y: (parent.height - height) / 2
                 width: parent.width
-                height: root.centred ? Math.max(column.implicitHeight, area.height - 2 * Style.spaceMedium) : column.implicitHeight
-
-                ColumnLayout {
-                    id: column
-                    anchors.verticalCenter: parent.verticalCenter
-                    width: parent.width
-                    spacing: Style.spaceMedium
-                }
+                spacing: Style.spaceMedium
+                topPadding: root.centred ? 0 : Style.spaceSmall
             }
         }
     }

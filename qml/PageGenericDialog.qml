@@ -21,7 +21,7 @@ PageFrame {
     initialFocus: button2Text.length > 0 ? button2 : button1Text.length > 0 ? button1 : message
 
     Image {
-        Layout.alignment: Qt.AlignHCenter
+        anchors.horizontalCenter: parent.horizontalCenter
         visible: root.symbol.toString().length > 0
         source: root.symbol
         sourceSize.width: Style.largeSymbol
@@ -31,11 +31,10 @@ PageFrame {
     WidgetText {
         id: message
         objectName: "messageText"
-        Layout.fillWidth: true
+        width: parent.width
         text: root.text
         horizontalAlignment: Text.AlignHCenter
         font.pixelSize: Style.fontTitle
-        lineHeight: 1.3
         Accessible.role: Accessible.AlertMessage
         Accessible.name: text
     }
@@ -43,8 +42,7 @@ PageFrame {
     ButtonText {
         id: button1
         objectName: "button1"
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
         visible: text.length > 0
         text: root.button1Text
         Accessible.description: root.text
@@ -54,7 +52,7 @@ PageFrame {
     ButtonText {
         id: button2
         objectName: "button2"
-        Layout.fillWidth: true
+        width: parent.width
         visible: text.length > 0
         primary: false
         text: root.button2Text

@@ -19,14 +19,13 @@ PageFrame {
     WidgetInputText {
         id: input
         objectName: "input"
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
         onAccepted: root.buttonDoneClicked()
     }
 
     ButtonText {
         objectName: "doneButton"
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Done")
         onClicked: root.buttonDoneClicked()
     }

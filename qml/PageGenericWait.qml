@@ -15,17 +15,16 @@ PageFrame {
     initialFocus: message
 
     WidgetBusy {
-        Layout.alignment: Qt.AlignHCenter
+        anchors.horizontalCenter: parent.horizontalCenter
     }
 
     WidgetText {
         id: message
         objectName: "messageText"
-        Layout.fillWidth: true
+        width: parent.width
         text: root.text
         horizontalAlignment: Text.AlignHCenter
         font.pixelSize: Style.fontTitle
-        lineHeight: 1.3
         Accessible.role: Accessible.AlertMessage
         Accessible.name: text
         Accessible.description: root.notes
@@ -33,11 +32,10 @@ PageFrame {
 
     WidgetText {
         objectName: "notesText"
-        Layout.fillWidth: true
+        width: parent.width
         visible: text.length > 0
         text: root.notes
         horizontalAlignment: Text.AlignHCenter
         color: Style.textSecondary
-        lineHeight: 1.2
     }
 }

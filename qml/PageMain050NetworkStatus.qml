@@ -20,7 +20,7 @@ PageMain050NetworkStatusForm {
     statusCard.visible: currDevice.networkStatusValid
     statusCard.title: qsTr("Connection")
     connection.statusType: isConnected ? 3 : 1
-    connection.text: isConnected ? qsTr("Network status is valid, the device is connected") : qsTr("The device is not connected to a network")
+    connection.text: isConnected ? qsTr("Connected to the network") : qsTr("Not connected to a network")
     accessPoint.visible: currDevice.hotspotActive
     accessPoint.statusType: 2
     accessPoint.text: qsTr("The access point of the device is on: it waits to be set up")

@@ -14,14 +14,12 @@ PageFrame {
 
     WidgetNotice {
         id: statusNotice
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceLarge
-        Layout.bottomMargin: Style.spaceLarge
+        width: parent.width
     }
 
     WidgetCard {
         id: statusCard
-        Layout.fillWidth: true
+        width: parent.width
 
         WidgetStatus {
             id: connection
@@ -48,7 +46,7 @@ PageFrame {
         WidgetNetworkInterface {
             required property var modelData
 
-            Layout.fillWidth: true
+            width: parent.width
             networkInterface: modelData
         }
     }
@@ -56,14 +54,13 @@ PageFrame {
     ButtonText {
         id: setUpButton
         objectName: "setUpButton"
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
     }
 
     ButtonText {
         id: resetButton
         objectName: "resetButton"
-        Layout.fillWidth: true
+        width: parent.width
         primary: false
     }
 }

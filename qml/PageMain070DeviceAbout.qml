@@ -49,7 +49,7 @@ PageFrame {
 
             readonly property var section: root.sections[index]
 
-            Layout.fillWidth: true
+            width: parent.width
             title: section.title
 
             Repeater {
@@ -62,7 +62,6 @@ PageFrame {
 
                     objectName: "aboutRow"
                     Layout.fillWidth: true
-                    Layout.minimumHeight: row[2] ? Style.touchTarget : 0
                     label: row[0]
                     text: row[1] || qsTr("Not known")
                     copyable: row[2] === true && row[1].length > 0

@@ -17,14 +17,13 @@ PageFrame {
     initialFocus: message
 
     WidgetText {
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
         text: qsTr("Switch on your Quivera device, then connect this computer to it:")
         font.pixelSize: Style.fontTitle
     }
 
     WidgetCard {
-        Layout.fillWidth: true
+        width: parent.width
 
         Repeater {
             model: root.steps
@@ -64,7 +63,7 @@ PageFrame {
     }
 
     WidgetCard {
-        Layout.fillWidth: true
+        width: parent.width
 
         WidgetLabeledText {
             Layout.fillWidth: true
@@ -84,14 +83,13 @@ PageFrame {
     }
 
     WidgetBusy {
-        Layout.alignment: Qt.AlignHCenter
-        Layout.topMargin: Style.spaceSmall
+        anchors.horizontalCenter: parent.horizontalCenter
     }
 
     WidgetText {
         id: message
         objectName: "messageText"
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Searching for\nQuivera device...")
         horizontalAlignment: Text.AlignHCenter
         font.pixelSize: Style.fontTitle

@@ -34,9 +34,12 @@ T.StackView {
             console.error(component.errorString());
             return null;
         }
+        // With its size from the beginning, and also while it is hidden: it is laid out once, not at every step.
         const made = component.createObject(root, Object.assign({
             objectName: id,
-            visible: false
+            visible: false,
+            width: Qt.binding(() => root.width),
+            height: Qt.binding(() => root.height)
         }, entry.properties));
         for (const name in entry.handlers) {
             made[name].connect(entry.handlers[name]);

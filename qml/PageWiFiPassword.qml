@@ -17,8 +17,7 @@ PageFrame {
     initialFocus: input.field
 
     WidgetLabeledText {
-        Layout.fillWidth: true
-        Layout.topMargin: Style.spaceSmall
+        width: parent.width
         symbol: Style.symbolWiFi
         label: qsTr("Wi-Fi Network")
         text: root.wiFiName
@@ -27,7 +26,7 @@ PageFrame {
     WidgetInputPass {
         id: input
         objectName: "input"
-        Layout.fillWidth: true
+        width: parent.width
         label: qsTr("Password")
         onTextChanged: {
             if (text.length === 0) {
@@ -43,7 +42,7 @@ PageFrame {
     }
 
     WidgetText {
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Leave the password empty if the network is open.")
         color: Style.textSecondary
         font.pixelSize: Style.fontSmall
@@ -52,7 +51,7 @@ PageFrame {
     ButtonText {
         id: next
         objectName: "nextButton"
-        Layout.fillWidth: true
+        width: parent.width
         text: qsTr("Next")
         onClicked: root.nextClicked()
     }

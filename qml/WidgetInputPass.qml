@@ -10,7 +10,6 @@ WidgetInputText {
     endPadding: eye.width + Style.spaceSmall
     field.echoMode: revealed ? TextInput.Normal : TextInput.Password
     field.inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
-    field.Accessible.passwordEdit: true
 
     ButtonSymbol {
         id: eye

@@ -34,7 +34,6 @@ Column {
         verticalAlignment: TextInput.AlignVCenter
         horizontalAlignment: TextInput.AlignLeft
         selectByMouse: true
-        focusPolicy: Qt.StrongFocus
         hoverEnabled: true
         color: enabled ? Style.text : Style.textDisabled
         selectionColor: Style.accent
@@ -45,6 +44,7 @@ Column {
 
         Accessible.role: Accessible.EditableText
         Accessible.name: root.label
+        Accessible.passwordEdit: field.echoMode === TextInput.Password
 
         background: WidgetBackground {
             hovered: field.hovered

@@ -1,9 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // A value below its name. One that is worth it can be copied.
-RowLayout {
+Item {
     id: root
 
     property string label
@@ -11,23 +10,34 @@ RowLayout {
     property url symbol
     property bool copyable: false
 
-    spacing: Style.spaceSmall
+    readonly property bool hasSymbol: symbol.toString().length > 0
+    readonly property bool canCopy: copyable && text.length > 0
+
+    implicitWidth: Math.max(name.implicitWidth, value.implicitWidth) + texts.anchors.leftMargin + texts.anchors.rightMargin
+    implicitHeight: Math.max(texts.height + 2 * Style.spaceTiny, canCopy ? Style.touchTarget : 0)
     Accessible.role: Accessible.StaticText
     Accessible.name: qsTr("%1: %2").arg(root.label).arg(root.text)
 
     Image {
-        visible: root.symbol.toString().length > 0
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.hasSymbol
         source: root.symbol
         sourceSize.width: Style.symbol
         sourceSize.height: Style.symbol
     }
 
-    ColumnLayout {
-        Layout.fillWidth: true
+    Column {
+        id: texts
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: root.hasSymbol ? Style.symbol + Style.spaceMedium : 0
+        anchors.rightMargin: root.canCopy ? Style.touchTarget : 0
         spacing: Style.spaceTiny
 
         WidgetText {
-            Layout.fillWidth: true
+            id: name
+            width: parent.width
             text: root.label
             color: Style.textSecondary
             font.pixelSize: Style.fontSmall
@@ -37,7 +47,7 @@ RowLayout {
         TextEdit {
             id: value
             objectName: "valueText"
-            Layout.fillWidth: true
+            width: parent.width
             text: root.text
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.WrapAtWordBoundaryOrAnywhere
@@ -55,7 +65,9 @@ RowLayout {
 
     ButtonSymbol {
         objectName: "copyButton"
-        visible: root.copyable && root.text.length > 0
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.canCopy
         symbol: Style.symbolCopy
         name: qsTr("Copy: %1").arg(root.label)
         onClicked: {

@@ -53,6 +53,7 @@ WidgetCard {
 
         WidgetStatus {
             objectName: "activeStatus"
+            Layout.fillWidth: false
             statusType: root.networkInterface.active ? 3 : 0
             text: root.networkInterface.active ? qsTr("Active") : qsTr("Not active")
         }
@@ -60,7 +61,7 @@ WidgetCard {
 
     GridLayout {
         Layout.fillWidth: true
-        columns: width >= Style.formWidth ? 2 : 1
+        columns: root.width >= Style.formWidth ? 2 : 1
         columnSpacing: Style.spaceMedium
         rowSpacing: Style.spaceMedium
 

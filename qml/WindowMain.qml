@@ -109,6 +109,7 @@ WindowMainForm {
             source: "PageGenericInput.qml",
             properties: {
                 title: qsTr("CHANGE DEVICE NAME"),
+                details: Qt.binding(() => currDevice.name),
                 text: qsTr("Enter new name"),
                 // The longest name that a unit takes has as many bytes.
                 maximumLength: 128

@@ -54,6 +54,7 @@ public:
         if (m_faults.connection != ConnectionFault::Refuse)
             listen();
         m_running = true;
+        settle(); // what follows by itself from the first state
     }
 
     void stop() {

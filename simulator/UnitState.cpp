@@ -1,10 +1,13 @@
 #include "UnitState.h"
 
+#include "simulator/messages/Messages.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
 #include <string_view>
+#include <utility>
 
 namespace Simulator {
 
@@ -47,6 +50,14 @@ NetworkState ownAccessPoint(const UnitOptions& options) {
     return network;
 }
 
+void addSoftware(HealthState& health, const char* name, bool ofUser) {
+    SoftwareEntry entry;
+    entry.name = name;
+    if (ofUser)
+        entry.user = health.user;
+    health.entries.push_back(std::move(entry));
+}
+
 AudioState firstAudio(const Product& product) {
     AudioState audio;
     audio.devices = {{"HDMI Input", "Sound of the player on HDMI 1", "hdmi-in-1", "HDMI", false, true},
@@ -68,6 +79,12 @@ UnitState initialState(const UnitOptions& options) {
     state.network = options.accessPoint ? ownAccessPoint(options) : joinedNetwork(options);
     state.media.count = options.media;
     const Product& product = *findProduct(options.product);
+    state.hardware.product = product.name;
+    state.hardware.model = product.model;
+    state.hardware.serial = options.serial;
+    addSoftware(state.health, "Monitor Service", false);
+    addSoftware(state.health, "Content Service", false);
+    addSoftware(state.health, "Quivera Agent", true);
     state.audio = firstAudio(product);
     if (options.product == "ruvello")
         state.experience.modes = {2, 3};
@@ -80,6 +97,8 @@ UnitState initialState(const UnitOptions& options) {
         state.experience.failure = noSeatFound;
         state.experience.message = "No seat was found";
     }
+    if (!options.accessPoint)
+        playTitle(state, 0);
     return state;
 }
 

@@ -67,6 +67,19 @@ struct MediaState {
     std::size_t count = 0;
 };
 
+/// What is heard and recognised. The words are those of the line.
+struct PlaybackState {
+    std::string audioState = "listening";
+    std::string motionCode = "listening";
+    std::string title;
+    int offset = 0;   ///< s, at `since`
+    int duration = 0; ///< s
+    double speed = 1; ///< seconds of the title for each second that goes by; 0: paused
+    std::chrono::steady_clock::time_point since{};
+    std::size_t number = 0; ///< of the title in the media list
+    int run = 0;            ///< counts what was played, so that the end of one is not taken for another's
+};
+
 struct CaptureDevice {
     std::string name;
     std::string description;
@@ -124,6 +137,40 @@ struct SeatState {
     SeatCondition condition = SeatCondition::Ok;
 };
 
+/// The controller itself, as its detailed status shows it.
+struct HardwareState {
+    std::string product;
+    std::string model;
+    std::string serial;
+    double load = 12.5;     ///< per cent
+    int temperature = 46;   ///< degrees Celsius; overheated from 85 on
+    int supplyVoltage = 24; ///< V
+};
+
+/// A piece of the software on the PC that the unit works with. Status: 3 good, 2 in progress, 1 error,
+/// 0 stopped.
+struct SoftwareEntry {
+    std::string name;
+    std::string user; ///< whose session it runs in; empty for a service
+    int status = 3;
+    std::string message = "Running";
+    std::string timestamp = "2025-11-03T08:15:00Z"; ///< ISO 8601, UTC: since when
+};
+
+struct HealthState {
+    int overall = 3; ///< as the status of an entry
+    std::string user = "viewer";
+    std::vector<SoftwareEntry> entries;
+};
+
+/// The adaptive gaming profile that is selected.
+struct GamingProfile {
+    std::string id = "racing-01";
+    std::string name = "Racing";
+    int type = 1;
+    int version = 3;
+};
+
 /// What a unit knows and remembers. Answers read and change it; what is to follow by itself goes into
 /// `steps`, what other clients should hear of into `notifications`, and the unit takes both out after every
 /// change.
@@ -133,9 +180,13 @@ struct UnitState {
     SoftwareState software;
     ContentState content;
     MediaState media;
+    PlaybackState playback;
     AudioState audio;
     ExperienceState experience;
     std::vector<SeatState> seats;
+    HardwareState hardware;
+    HealthState health;
+    GamingProfile profile;
     int motionDelay = 0;           ///< ms, -1000 to 1000
     int recognitionTolerance = 10; ///< s, 0 to 60
 

@@ -37,6 +37,10 @@ constexpr std::array catalogue{
     Message{"SetMotionDelay", setMotionDelay},
     Message{"GetRecognitionTolerance", getRecognitionTolerance},
     Message{"SetRecognitionTolerance", setRecognitionTolerance},
+    Message{"GetHapticSystemStatus", getHapticSystemStatus},
+    Message{"GetSoftwareHealthStatus", getSoftwareHealthStatus},
+    Message{"GetAdaptiveGamingSelectedProfile", getAdaptiveGamingSelectedProfile},
+    Message{"GetMediaStatus", getMediaStatus},
 };
 
 const Message* find(std::string_view type) {

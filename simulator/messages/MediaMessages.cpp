@@ -1,5 +1,6 @@
 #include "simulator/messages/Body.h"
 #include "simulator/messages/Messages.h"
+#include "simulator/messages/Titles.h"
 
 #include <array>
 #include <cstdio>
@@ -24,14 +25,6 @@ std::string formatted(const char* format, Values... values) {
     return text.data();
 }
 
-/// The same number always gives the same title, and no two numbers the same one.
-std::string titleOf(std::size_t number) {
-    const std::size_t part = number / (adjectives.size() * nouns.size());
-    std::string title = std::string("The ") + adjectives[number % adjectives.size()] + ' ' +
-                        nouns[number / adjectives.size() % nouns.size()];
-    return part == 0 ? title : title + ' ' + std::to_string(part + 1);
-}
-
 std::string dateOf(std::size_t number, unsigned int firstYear) {
     const auto scattered = static_cast<unsigned int>(number * 2654435761U % 100000U);
     return formatted("%04u-%02u-%02u", firstYear + scattered % 24U, 1U + scattered / 24U % 12U,
@@ -39,11 +32,22 @@ std::string dateOf(std::size_t number, unsigned int firstYear) {
 }
 
 std::string durationOf(std::size_t number) {
-    const auto seconds = static_cast<unsigned int>(4800U + number * 977U % 5400U);
+    const auto seconds = static_cast<unsigned int>(playingTimeOf(number));
     return formatted("%02u:%02u:%02u", seconds / 3600U, seconds / 60U % 60U, seconds % 60U);
 }
 
 } // namespace
+
+std::string titleOf(std::size_t number) {
+    const std::size_t part = number / (adjectives.size() * nouns.size());
+    std::string title = std::string("The ") + adjectives[number % adjectives.size()] + ' ' +
+                        nouns[number / adjectives.size() % nouns.size()];
+    return part == 0 ? title : title + ' ' + std::to_string(part + 1);
+}
+
+int playingTimeOf(std::size_t number) {
+    return static_cast<int>(4800U + number * 977U % 5400U);
+}
 
 Answer getMediaList(UnitState& state, const Request& /*request*/) {
     Body body;

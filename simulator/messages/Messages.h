@@ -84,4 +84,15 @@ Answer setRecognitionTolerance(UnitState& state, const Request& request);
 /// A seat's condition in words.
 std::string describe(SeatCondition condition);
 
+Answer getHapticSystemStatus(UnitState& state, const Request& request);
+Answer getSoftwareHealthStatus(UnitState& state, const Request& request);
+Answer getAdaptiveGamingSelectedProfile(UnitState& state, const Request& request);
+
+Answer getMediaStatus(UnitState& state, const Request& request);
+/// Plays the title of the list under this number, which starts again after its end; nothing when the list is
+/// empty.
+void playTitle(UnitState& state, std::size_t number);
+/// Counts the offset from now on. To be called after every change of what plays, and from where.
+void playFromHere(UnitState& state);
+
 } // namespace Simulator
