@@ -96,7 +96,9 @@ protected:
     /// How long it takes until the next request starts, in ms; it is answered then.
     int untilNextRequest() {
         const auto start = time.now();
-        while (communicator->isIdle() && time.now() - start < std::chrono::hours(1)) {
+        const int before = ended.size(); // what expects no answer ends as it starts
+        while (communicator->isIdle() && ended.size() == before &&
+               time.now() - start < std::chrono::hours(1)) {
             time.pass(time.untilNext());
         }
         const auto taken = std::chrono::duration_cast<TurnedTime::Span>(time.now() - start);
