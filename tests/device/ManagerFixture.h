@@ -93,6 +93,41 @@ protected:
         return condition();
     }
 
+    /// Lets time flow, ten times as fast as it does, until the condition holds. For units that do not answer,
+    /// and for what they do in their own time.
+    template <class Condition>
+    bool comes(Condition condition) {
+        QElapsedTimer waited;
+        waited.start();
+        while (!condition() && waited.elapsed() < patience) {
+            QTest::qWait(5);
+            pass(50);
+        }
+        return condition();
+    }
+
+    void list(const RunningUnit& unit) {
+        announce(unit);
+        const int rows = manager->deviceCount();
+        EXPECT_TRUE(comes([&] { return manager->deviceCount() > rows; }));
+    }
+
+    /// Lists a unit and opens its page.
+    void open(const RunningUnit& unit) {
+        list(unit);
+        EXPECT_TRUE(comes([&] { return areAllKnown(); }));
+        for (int row = 0; row < manager->deviceCount(); ++row) {
+            if (manager->deviceAt(row)->uid().toStdString() == unit.uid()) {
+                manager->selectDevice(row);
+            }
+        }
+        manager->showingDeviceInfo();
+        EXPECT_TRUE(comes([&] {
+            return (DeviceField::Set(DeviceField::details) & ~manager->selectedDevice()->validFields())
+                .none();
+        }));
+    }
+
     /// How long it takes until the next request starts, in ms; it is answered then.
     int untilNextRequest() {
         const auto start = time.now();

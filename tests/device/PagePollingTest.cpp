@@ -6,12 +6,6 @@ namespace {
 /// What each page polls and how often. The time is turned by hand, the units answer over real sockets.
 class PagePollingTest : public TimedManagerFixture {
 protected:
-    void list(const RunningUnit& unit) {
-        announce(unit);
-        const int row = manager->deviceCount();
-        EXPECT_TRUE(inTime([&] { return manager->deviceCount() > row; }));
-    }
-
     void select(const RunningUnit& unit) {
         list(unit);
         EXPECT_TRUE(inTime([&] { return areAllKnown(); }));
