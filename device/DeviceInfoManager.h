@@ -113,6 +113,8 @@ private:
     void queueSetting(std::shared_ptr<DeviceUpdateRequest> request);
     void queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState);
     bool sendPendingSetting();
+    bool tellLoss();
+    void tellSelected();
     void sendNow(std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout);
     void startTimer(int milliseconds);
     void stopTimer();
@@ -141,6 +143,7 @@ private:
     std::function<Clock::time_point()> m_now;
     int m_timerId = 0;
     bool m_isSettling = false;
+    bool m_wasOnline = false;  ///< the selected unit, when the views were last told of it
     bool m_cancelling = false; ///< the completion under way is of our own making
     std::unique_ptr<PendingSettings> m_settings;
     std::unique_ptr<States> m_states;

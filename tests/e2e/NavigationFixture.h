@@ -36,10 +36,10 @@ protected:
         return setup->isVisible() ? setup : stack("WindowMain");
     }
 
-    QString shownPage() const { return shownStack()->property("currentId").toString(); }
+    std::string shownPage() const { return shownStack()->property("currentId").toString().toStdString(); }
 
     /// Whether that page comes within 30 s (or is there already).
-    bool arrives(const QString& page) const {
+    bool arrives(const std::string& page) const {
         const bool here = QTest::qWaitFor([&] { return shownPage() == page; }, 30000);
         EXPECT_EQ(shownPage(), page);
         return here;
@@ -55,7 +55,7 @@ protected:
                        !shownStack()->property("isSettling").toBool();
             },
             30000);
-        EXPECT_TRUE(here) << name.toStdString() << " on " << shownPage().toStdString();
+        EXPECT_TRUE(here) << name.toStdString() << " on " << shownPage();
         return here ? found : nullptr;
     }
 
@@ -93,13 +93,13 @@ protected:
     }
 
     /// What the page that is shown tells.
-    QString message() const {
+    std::string message() const {
         QQuickItem* const text = window.item("messageText");
-        return text ? text->property("text").toString() : QString();
+        return text ? text->property("text").toString().toStdString() : std::string();
     }
 
-    /// Each step since the last call: the page ids of the console lines.
-    QStringList steps() const {
+    /// Each step since the last call: the page ids of the console lines, without "page".
+    std::string steps() const {
         QStringList pages;
         for (const QString& line : WarningCapture::takeNotes()) {
             if (line.startsWith("WindowMain: ") || line.startsWith("WindowSetup: ")) {
@@ -107,14 +107,14 @@ protected:
             }
             EXPECT_FALSE(line.contains(secret));
         }
-        return pages;
+        return pages.join(QLatin1Char(' ')).toStdString();
     }
 
     /// Reached by itself: the only unit around is opened.
     Unit openOnlyUnit(const std::string& name) {
         Unit unit = makeUnit("kelm", name);
         EXPECT_TRUE(arrives("pageMain040DeviceInfo"));
-        EXPECT_EQ(steps(), QStringList{"Main040DeviceInfo"});
+        EXPECT_EQ(steps(), "Main040DeviceInfo");
         return unit;
     }
 
