@@ -171,11 +171,7 @@ void DeviceInfoManager::setDeviceName(QString name) {
         return;
     }
     m_selected->setName(name);
-    emit selectedDeviceUpdated();
-    const int row = positionOf(m_selected);
-    if (row >= 0) {
-        emit itemUpdated(row);
-    }
+    tellSelected();
     m_states->updateSelectedDeviceFields.configure(
         DeviceField::mask({DeviceField::Name, DeviceField::SoftwareVersion}), 5000, 5000);
     queueAndShow(std::make_shared<SetNameRequest>(std::move(name)), m_states->updateSelectedDeviceFields);
@@ -317,9 +313,30 @@ void DeviceInfoManager::timerEvent(QTimerEvent* event) {
 
 void DeviceInfoManager::tick() {
     m_discoverer->removeExpiredItems();
-    if (!sendPendingSetting() && m_time.now() >= m_stateDue) {
+    // A page that hears of a loss may have asked for something else already.
+    if (!tellLoss() && !sendPendingSetting() && m_time.now() >= m_stateDue) {
         m_stateDue = m_time.now() + tickInterval;
         m_state->onTimer();
+    }
+}
+
+/// A connection that is lost between two requests ends none of them: the views hear of it here, also while
+/// nothing is polled.
+bool DeviceInfoManager::tellLoss() {
+    const bool isLost = m_wasOnline && m_selected && !m_selected->isOnline() && m_communicator->isIdle();
+    if (isLost) {
+        tellSelected();
+    }
+    m_wasOnline = m_selected && m_selected->isOnline();
+    return isLost;
+}
+
+void DeviceInfoManager::tellSelected() {
+    m_wasOnline = m_selected->isOnline();
+    emit selectedDeviceUpdated();
+    const int row = positionOf(m_selected);
+    if (row >= 0) {
+        emit itemUpdated(row);
     }
 }
 
@@ -339,11 +356,7 @@ void DeviceInfoManager::complete(bool success) {
         m_state->onRequestComplete(success);
     }
     if (m_selected && m_selected->changedFields().any()) {
-        emit selectedDeviceUpdated();
-        const int row = positionOf(m_selected);
-        if (row >= 0) {
-            emit itemUpdated(row);
-        }
+        tellSelected();
     }
     if (hasSettled) {
         setSettling(false);
@@ -402,6 +415,7 @@ void DeviceInfoManager::cancelRequest() {
 
 void DeviceInfoManager::select(std::shared_ptr<DeviceInfo> unit) {
     m_selected = std::move(unit);
+    m_wasOnline = m_selected && m_selected->isOnline();
     emit selectedDeviceUpdated();
     setSettling(false);
 }

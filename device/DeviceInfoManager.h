@@ -116,6 +116,8 @@ private:
     void queueSetting(std::shared_ptr<DeviceUpdateRequest> request);
     void queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState);
     bool sendPendingSetting();
+    bool tellLoss();
+    void tellSelected();
     void sendNow(std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout);
     void startTimer(std::chrono::milliseconds interval);
     void runTimer();
@@ -148,6 +150,7 @@ private:
     TimeSource::TimePoint m_stateDue{}; ///< when the current state wants its next tick
     int m_contentUpdateTimerId = 0;     ///< of the content update that a page asked for
     bool m_isSettling = false;
+    bool m_wasOnline = false;  ///< the selected unit, when the views were last told of it
     bool m_cancelling = false; ///< the completion under way is of our own making
     std::unique_ptr<PendingSettings> m_settings;
     std::unique_ptr<States> m_states;

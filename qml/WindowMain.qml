@@ -178,6 +178,8 @@ WindowMainForm {
         function onOnlineChanged() {
             if (!currDevice.online && root.onlinePages.includes(root.stack.currentId)) {
                 root.returnToDevice();
+                // A key that was meant for the page that went must not press anything.
+                root.stack.focusPage(null);
             }
         }
     }
