@@ -46,12 +46,13 @@ public:
     std::uint16_t port() const { return m_port; }
     UnitServer& server() { return m_server; }
     const UnitState& state() const { return m_state; }
+    bool isRunning() const { return m_running; }
     const UnitCounters& counters() const { return m_counters; }
 
     void start() {
         if (m_running)
             return;
-        if (m_faults.connection != ConnectionFault::Refuse)
+        if (mayListen())
             listen();
         m_running = true;
         settle(); // what follows by itself from the first state
@@ -72,7 +73,7 @@ public:
 
     void setFaults(const Faults& faults) {
         m_faults = faults;
-        const bool open = m_running && faults.connection != ConnectionFault::Refuse;
+        const bool open = m_running && mayListen();
         if (open && !m_server.isListening())
             listen();
         else if (!open)
@@ -80,8 +81,8 @@ public:
     }
 
     // Announcer
-    bool isAnnounced() const override { return m_running; }
-    const std::string& address() const override { return m_options.address; }
+    bool isAnnounced() const override { return m_running && m_state.network.reachable; }
+    const std::string& address() const override { return m_state.network.address; }
     void announced() override { ++m_counters.announcements; }
     Announcement announcement() const override {
         const Product& product = *findProduct(m_options.product);
@@ -116,8 +117,16 @@ public:
     void frameReceived(ConnectionId connection, std::string_view frame) override;
 
 private:
-    void listen() { m_port = m_server.listen(m_options.address, m_port); }
+    bool mayListen() const {
+        return m_state.network.reachable && m_faults.connection != ConnectionFault::Refuse;
+    }
+    void listen() {
+        m_port = m_server.listen(m_state.network.address, m_port);
+        m_listensAt = m_state.network.address;
+    }
+    void followNetwork();
     void complain(ConnectionId connection, const std::string& type, std::uint32_t number, const char* why);
+    void reply(ConnectionId connection, const Header& header, std::string_view body);
     void settle(ConnectionId asker = 0);
 
     HostLoop& m_loop;
@@ -126,6 +135,7 @@ private:
     std::optional<Identity> m_wrongIdentity;
     const std::string m_uid;
     std::uint16_t m_port;
+    std::string m_listensAt;
     UnitState m_state;
     Faults m_faults;
     UnitCounters m_counters;
@@ -159,8 +169,8 @@ void SimulatedUnit::Core::frameReceived(ConnectionId connection, std::string_vie
     const bool done = answer.status == Status::Ok;
     const Header header{done ? Kind::Response : Kind::Error, asked.type, asked.number, answer.text,
                         static_cast<std::int32_t>(answer.status)};
-    if (auto outgoing = spoil(m_faults, header, answer.body))
-        m_server.send(connection, std::move(*outgoing));
+    if (!answer.withheld)
+        reply(connection, header, answer.body);
     settle(connection);
 }
 
@@ -168,13 +178,36 @@ void SimulatedUnit::Core::complain(ConnectionId connection, const std::string& t
                                    const char* why) {
     ++m_counters.malformed;
     const Header header{Kind::Error, type, number, why, static_cast<std::int32_t>(Status::Malformed)};
-    if (auto outgoing = spoil(m_faults, header, {}))
-        m_server.send(connection, std::move(*outgoing));
+    reply(connection, header, {});
+}
+
+void SimulatedUnit::Core::reply(ConnectionId connection, const Header& header, std::string_view body) {
+    for (Outgoing& outgoing : spoil(m_faults, header, body))
+        m_server.send(connection, std::move(outgoing));
+}
+
+/// A unit that left its network hears and says nothing; on the next one it may have another address.
+void SimulatedUnit::Core::followNetwork() {
+    const bool here = m_state.network.reachable && m_state.network.address == m_listensAt;
+    if (!m_running || (here && m_server.isListening()))
+        return;
+    if (!here) {
+        m_server.stopListening();
+        m_server.dropConnections();
+    }
+    if (!mayListen())
+        return;
+    try {
+        listen();
+    } catch (const std::runtime_error&) {
+        m_state.network.reachable = false; // somebody else has the address: nobody can reach this unit
+    }
 }
 
 /// Takes out of the state what is to follow: clients other than the one that asked are told, steps are waited
 /// for.
 void SimulatedUnit::Core::settle(ConnectionId asker) {
+    followNetwork();
     for (const Notification& notification : std::exchange(m_state.notifications, {}))
         if (const auto frame =
                 encodeFrame({Kind::Notification, notification.type, 1, {}, 0}, notification.body))
@@ -213,7 +246,7 @@ void SimulatedUnit::stop() {
 
 bool SimulatedUnit::isRunning() const {
     bool running = false;
-    m_host.run([&] { running = m_core->isAnnounced(); });
+    m_host.run([&] { running = m_core->isRunning(); });
     return running;
 }
 
@@ -229,6 +262,12 @@ std::uint16_t SimulatedUnit::port() const {
     std::uint16_t port = 0;
     m_host.run([&] { port = m_core->port(); });
     return port;
+}
+
+std::string SimulatedUnit::address() const {
+    std::string address;
+    m_host.run([&] { address = m_core->address(); });
+    return address;
 }
 
 Velto::Wire::Announcement SimulatedUnit::announcement() const {

@@ -53,7 +53,8 @@ public:
 
     const UnitOptions& options() const; ///< completed
     const std::string& uid() const;
-    std::uint16_t port() const; ///< 0 before the first start when any free one was asked for
+    std::uint16_t port() const;  ///< 0 before the first start when any free one was asked for
+    std::string address() const; ///< now; that of the options until it changes networks
     Velto::Wire::Announcement announcement() const;
 
     /// As if renamed by another client: all clients are told. Throws std::invalid_argument for a name the

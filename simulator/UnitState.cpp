@@ -1,5 +1,6 @@
 #include "UnitState.h"
 
+#include "simulator/StateSettings.h"
 #include "simulator/messages/Messages.h"
 
 #include <algorithm>
@@ -26,27 +27,30 @@ std::string hardwareAddress(const std::string& serial, unsigned int interface) {
     return text.data();
 }
 
-NetworkState joinedNetwork(const UnitOptions& options) {
-    NetworkState network;
-    network.ssid = "Living Room";
-    network.interfaces = {
-        {"Access Point", hardwareAddress(options.serial, 0), "", "", ""},
-        {"Ethernet", hardwareAddress(options.serial, 1), "", "", ""},
-        {"Wi-Fi", hardwareAddress(options.serial, 2), options.address, "255.0.0.0", "127.255.255.255"},
-    };
-    return network;
+constexpr std::array<const char*, 3> interfaceNames{"Access Point", "Ethernet", "Wi-Fi"};
+enum Interface : std::size_t { AccessPoint = 0, WiFi = 2 };
+
+/// Every other interface loses its address.
+void addressOnly(NetworkState& network, Interface which, const std::string& address) {
+    for (NetworkInterface& each : network.interfaces)
+        each = {each.name, each.hardwareAddress, "", "", ""};
+    NetworkInterface& used = network.interfaces.at(which);
+    used.ip = address;
+    used.netmask = "255.0.0.0"; // of the loopback network, on which simulated units live
+    used.broadcast = "127.255.255.255";
+    network.address = address;
 }
 
-NetworkState ownAccessPoint(const UnitOptions& options) {
+NetworkState firstNetwork(const UnitOptions& options) {
     NetworkState network;
-    network.online = false;
-    network.wifiOnline = false;
-    network.hotspotActive = true;
-    network.interfaces = {
-        {"Access Point", hardwareAddress(options.serial, 0), options.address, "255.0.0.0", "127.255.255.255"},
-        {"Ethernet", hardwareAddress(options.serial, 1), "", "", ""},
-        {"Wi-Fi", hardwareAddress(options.serial, 2), "", "", ""},
-    };
+    for (const char* const name : interfaceNames) {
+        const auto number = static_cast<unsigned int>(network.interfaces.size());
+        network.interfaces.push_back({name, hardwareAddress(options.serial, number), "", "", ""});
+    }
+    if (options.accessPoint)
+        openAccessPoint(network, options.address);
+    else
+        joinNetwork(network, "Living Room", options.address);
     return network;
 }
 
@@ -76,7 +80,9 @@ AudioState firstAudio(const Product& product) {
 UnitState initialState(const UnitOptions& options) {
     UnitState state;
     state.name = options.name;
-    state.network = options.accessPoint ? ownAccessPoint(options) : joinedNetwork(options);
+    state.network = firstNetwork(options);
+    state.wifi.seen = {
+        {"Living Room", "sofa-and-popcorn"}, {"Home Cinema", "second-row-left"}, {"Caf\u00e9 \"Orbit\"", ""}};
     state.media.count = options.media;
     const Product& product = *findProduct(options.product);
     state.hardware.product = product.name;
@@ -99,7 +105,25 @@ UnitState initialState(const UnitOptions& options) {
     }
     if (!options.accessPoint)
         playTitle(state, 0);
+    if (!options.state.empty())
+        applySettings(state, options.state, "state");
     return state;
+}
+
+void joinNetwork(NetworkState& network, const std::string& ssid, const std::string& address) {
+    network.online = true;
+    network.wifiOnline = true;
+    network.hotspotActive = false;
+    network.ssid = ssid;
+    addressOnly(network, WiFi, address);
+}
+
+void openAccessPoint(NetworkState& network, const std::string& address) {
+    network.online = false;
+    network.wifiOnline = false;
+    network.hotspotActive = true;
+    network.ssid.clear();
+    addressOnly(network, AccessPoint, address);
 }
 
 std::string complaintAboutName(const std::string& name) {

@@ -37,8 +37,32 @@ struct NetworkState {
     bool online = true;
     bool wifiOnline = true;
     bool hotspotActive = false;
-    std::string ssid; ///< the network the unit is joined to
+    std::string ssid;      ///< the network the unit is joined to
+    std::string address;   ///< where clients find it
+    bool reachable = true; ///< false while it is between two networks
+    bool moving = false;   ///< a change of network has begun
     std::vector<NetworkInterface> interfaces;
+};
+
+struct WifiNetwork {
+    std::string ssid;
+    std::string key; ///< pass phrase; empty: the network is open
+};
+
+/// What goes wrong when the unit changes networks.
+enum class JoinFault {
+    None,
+    LeavesUnanswered, ///< it is gone before it answers
+    NeverReturns,
+};
+
+struct WifiState {
+    std::vector<WifiNetwork> seen;
+    std::chrono::milliseconds leaveTime{200}; ///< from the answer to the loss of all connections
+    std::chrono::milliseconds joinTime{2000}; ///< how long the unit is away
+    JoinFault fault = JoinFault::None;
+    std::string joinedAddress;      ///< where clients find it on the network; empty: where it was
+    std::string accessPointAddress; ///< the same for its own access point
 };
 
 /// Firmware; the words of the statuses are those of the line ("scheduled", "in_progress", "success"…).
@@ -177,6 +201,7 @@ struct GamingProfile {
 struct UnitState {
     std::string name;
     NetworkState network;
+    WifiState wifi;
     SoftwareState software;
     ContentState content;
     MediaState media;
@@ -196,6 +221,10 @@ struct UnitState {
 
 /// The state of a unit that was just switched on.
 UnitState initialState(const UnitOptions& options);
+
+/// The unit on the Wi-Fi network, or with its own access point up, reached at this address.
+void joinNetwork(NetworkState& network, const std::string& ssid, const std::string& address);
+void openAccessPoint(NetworkState& network, const std::string& address);
 
 constexpr std::size_t maximumNameSize = 128; ///< bytes of UTF-8
 

@@ -41,6 +41,8 @@ constexpr std::array catalogue{
     Message{"GetSoftwareHealthStatus", getSoftwareHealthStatus},
     Message{"GetAdaptiveGamingSelectedProfile", getAdaptiveGamingSelectedProfile},
     Message{"GetMediaStatus", getMediaStatus},
+    Message{"GetWifiList", getWifiList},
+    Message{"SetWifiSetting", setWifiSetting},
 };
 
 const Message* find(std::string_view type) {

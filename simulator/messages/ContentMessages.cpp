@@ -138,7 +138,7 @@ void advance(UnitState& state) {
 } // namespace
 
 Answer getContentUpdateState(UnitState& state, const Request& /*request*/) {
-    return {Status::Ok, {}, stateBody(state.content)};
+    return answered(stateBody(state.content));
 }
 
 /// Asking again while an update runs is answered as the first time and starts no second one.
@@ -159,7 +159,7 @@ Answer getUpdate(UnitState& state, const Request& /*request*/) {
     Body body;
     body.object("last").text("status", state.content.lastStatus).endObject();
     body.object("current").text("updatedTimestamp", state.content.updatedTimestamp).endObject();
-    return {Status::Ok, {}, body.finish()};
+    return answered(body.finish());
 }
 
 } // namespace Simulator

@@ -63,7 +63,7 @@ Answer getMediaList(UnitState& state, const Request& /*request*/) {
             .text("trackReleaseDate", dateOf(number, 2000))
             .endObject();
     }
-    return {Status::Ok, {}, body.endArray().endObject().finish()};
+    return answered(body.endArray().endObject().finish());
 }
 
 } // namespace Simulator

@@ -21,14 +21,15 @@ struct Answer {
     Status status = Status::Ok;
     std::string text; ///< why not, for people
     std::string body;
+    bool withheld = false; ///< done, but the client never hears of it
 };
 
 inline Answer refusal(Status status, std::string why) {
-    return {status, std::move(why), {}};
+    return {status, std::move(why), {}, false};
 }
 
 inline Answer answered(std::string body = {}) {
-    return {Status::Ok, {}, std::move(body)};
+    return {Status::Ok, {}, std::move(body), false};
 }
 
 /// A member is missing or of the wrong type.
@@ -94,5 +95,8 @@ Answer getMediaStatus(UnitState& state, const Request& request);
 void playTitle(UnitState& state, std::size_t number);
 /// Counts the offset from now on. To be called after every change of what plays, and from where.
 void playFromHere(UnitState& state);
+
+Answer getWifiList(UnitState& state, const Request& request);
+Answer setWifiSetting(UnitState& state, const Request& request);
 
 } // namespace Simulator

@@ -4,7 +4,7 @@
 namespace Simulator {
 
 Answer getKelmName(UnitState& state, const Request& /*request*/) {
-    return {Status::Ok, {}, Body().text("kelmName", state.name).finish()};
+    return answered(Body().text("kelmName", state.name).finish());
 }
 
 Answer setKelmName(UnitState& state, const Request& request) {
@@ -15,7 +15,7 @@ Answer setKelmName(UnitState& state, const Request& request) {
         return refusal(Status::Refused, "kelmName: " + complaint);
     state.name = *name;
     tell(state, "GetKelmName");
-    return {};
+    return answered();
 }
 
 } // namespace Simulator

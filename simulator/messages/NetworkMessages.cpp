@@ -21,7 +21,7 @@ Answer getNetworkState(UnitState& state, const Request& /*request*/) {
             .text("broadcast", interface.broadcast)
             .endObject();
     }
-    return {Status::Ok, {}, body.endArray().finish()};
+    return answered(body.endArray().finish());
 }
 
 } // namespace Simulator

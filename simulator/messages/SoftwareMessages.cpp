@@ -8,7 +8,7 @@ Answer getUpgrade(UnitState& state, const Request& /*request*/) {
     Body body;
     body.object("last").text("version", software.lastVersion).text("status", software.lastStatus).endObject();
     body.object("current").text("version", software.version).endObject();
-    return {Status::Ok, {}, body.finish()};
+    return answered(body.finish());
 }
 
 } // namespace Simulator
