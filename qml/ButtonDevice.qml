@@ -24,13 +24,19 @@ AbstractButton {
     Accessible.name: root.displayName
     Accessible.description: root.statusText.length > 0 ? qsTr("%1, %2").arg(root.productName).arg(root.statusText) : root.productName
 
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
+    Keys.onReturnPressed: event => pressedByKey(event)
+    Keys.onEnterPressed: event => pressedByKey(event)
+
+    function pressedByKey(event) {
+        if (!event.isAutoRepeat) {
+            root.clicked();
+        }
+    }
 
     background: WidgetBackground {
         hovered: root.hovered
         pressed: root.down
-        focused: root.visualFocus
+        focused: root.activeFocus
     }
 
     contentItem: RowLayout {

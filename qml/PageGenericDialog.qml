@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // Tells one thing and offers up to two answers. What it tells is spoken with the button that has the focus.

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // Shows that something is being waited for, and what the user may do meanwhile.

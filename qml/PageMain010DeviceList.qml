@@ -8,6 +8,7 @@ Rectangle {
     id: root
 
     property alias model: list.model
+    readonly property Item initialFocus: list
 
     signal addDevice
     signal deviceTapped(int index)
@@ -40,8 +41,9 @@ Rectangle {
                 clip: true
                 boundsBehavior: Flickable.StopAtBounds
                 keyNavigationEnabled: true
+                highlightMoveDuration: 0
                 Accessible.role: Accessible.List
-                Accessible.name: qsTr("ORVEX SYSTEMS")
+                Accessible.name: qsTr("Quivera devices")
 
                 ScrollBar.vertical: ScrollBar {}
 
@@ -49,13 +51,17 @@ Rectangle {
                     required property int index
                     required property var model
 
+                    // What it says is not known here: the versions of the two do not go together.
+                    readonly property bool needsUpdate: model.contentUpdateStateText === qsTranslate("ContentUpdateState", "Unknown state")
+                    readonly property string contentText: [model.contentUpdateStateText, model.contentUpdateState2ndText].filter(text => text.length > 0).join("\n")
+
                     objectName: "deviceRow"
                     width: list.width
                     deviceName: model.name
                     productName: model.productName
                     localAddress: model.localAddress
-                    needsAttention: model.hotspotActive
-                    statusText: model.hotspotActive ? qsTr("Network Setup Required") : [model.contentUpdateStateText, model.contentUpdateState2ndText].filter(text => text.length > 0).join("\n")
+                    needsAttention: model.hotspotActive || needsUpdate
+                    statusText: model.hotspotActive ? qsTr("Network Setup Required") : needsUpdate ? qsTr("System Update Required") : contentText
                     onClicked: root.deviceTapped(index)
                 }
             }

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 PageFrame {
@@ -24,19 +23,19 @@ PageFrame {
         WidgetStatus {
             id: connection
             objectName: "connectionStatus"
-            Layout.fillWidth: true
+            width: parent.width
         }
 
         WidgetStatus {
             id: accessPoint
             objectName: "accessPointStatus"
-            Layout.fillWidth: true
+            width: parent.width
         }
 
         WidgetLabeledText {
             id: network
             objectName: "networkName"
-            Layout.fillWidth: true
+            width: parent.width
         }
     }
 

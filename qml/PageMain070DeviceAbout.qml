@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // What a unit is: its identity, its versions and where it is.
@@ -61,7 +60,7 @@ PageFrame {
                     readonly property var row: card.section.rows[index]
 
                     objectName: "aboutRow"
-                    Layout.fillWidth: true
+                    width: parent.width
                     label: row[0]
                     text: row[1] || qsTr("Not known")
                     copyable: row[2] === true && row[1].length > 0
@@ -71,7 +70,7 @@ PageFrame {
             WidgetLabeledText {
                 objectName: "encryption"
                 visible: card.index === root.sections.length - 1
-                Layout.fillWidth: true
+                width: parent.width
                 label: qsTr("Connection")
                 symbol: currDevice.encrypted ? Style.symbolEncrypted : Style.symbolUnencrypted
                 text: currDevice.encrypted ? qsTr("Encrypted") : qsTr("Not encrypted")

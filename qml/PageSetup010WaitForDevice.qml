@@ -14,9 +14,10 @@ PageFrame {
 
     maximumContentWidth: Style.formWidth
     spacing: Style.spaceLarge
-    initialFocus: message
+    initialFocus: introduction
 
     WidgetText {
+        id: introduction
         width: parent.width
         text: qsTr("Switch on your Quivera device, then connect this computer to it:")
         font.pixelSize: Style.fontTitle
@@ -32,7 +33,7 @@ PageFrame {
                 required property string modelData
                 required property int index
 
-                Layout.fillWidth: true
+                width: parent.width
                 spacing: Style.spaceMedium
                 Accessible.role: Accessible.ListItem
                 Accessible.name: qsTr("%1. %2").arg(index + 1).arg(modelData)
@@ -66,7 +67,7 @@ PageFrame {
         width: parent.width
 
         WidgetLabeledText {
-            Layout.fillWidth: true
+            width: parent.width
             label: qsTr("Network Name")
             text: root.accessPointName
             symbol: Style.symbolWiFi
@@ -74,7 +75,7 @@ PageFrame {
 
         WidgetLabeledText {
             objectName: "accessPointPassword"
-            Layout.fillWidth: true
+            width: parent.width
             label: qsTr("Password")
             text: root.accessPointPassword
             symbol: Style.symbolEncrypted
@@ -87,7 +88,6 @@ PageFrame {
     }
 
     WidgetText {
-        id: message
         objectName: "messageText"
         width: parent.width
         text: qsTr("Searching for\nQuivera device...")

@@ -15,6 +15,8 @@ T.StackView {
     property var pages: ({})
 
     readonly property string currentId: currentItem ? currentItem.objectName : ""
+    // Whether a step was taken so lately that a click in the same place may be the rest of a double click.
+    readonly property bool isSettling: settling.running
 
     property var madePages: ({})
     property var components: ({})

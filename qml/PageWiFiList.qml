@@ -86,6 +86,14 @@ Rectangle {
 
                 ScrollBar.vertical: ScrollBar {}
 
+                WidgetNotice {
+                    anchors.centerIn: parent
+                    width: parent.width
+                    visible: rows.count === 0
+                    isWaiting: visible
+                    text: qsTr("No Wi-Fi network found yet. Make sure that your router is switched on and near the device.")
+                }
+
                 delegate: ButtonNetwork {
                     required property int index
                     required property var model

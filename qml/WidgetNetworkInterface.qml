@@ -9,7 +9,7 @@ WidgetCard {
     // With the members of an entry of the unit's list of interfaces.
     property var networkInterface: ({})
 
-    readonly property int wiFiType: 2
+    // By type: 0 access point, 1 Ethernet, 2 Wi-Fi.
     readonly property var symbols: [Style.symbolAccessPoint, Style.symbolNetwork, Style.symbolWiFi]
     readonly property var rows: [
         {
@@ -31,7 +31,7 @@ WidgetCard {
     ].filter(row => row.text)
 
     RowLayout {
-        Layout.fillWidth: true
+        width: parent.width
         spacing: Style.spaceMedium
 
         Image {
@@ -59,11 +59,12 @@ WidgetCard {
         }
     }
 
-    GridLayout {
-        Layout.fillWidth: true
+    Grid {
+        id: grid
+        width: parent.width
         columns: root.width >= Style.formWidth ? 2 : 1
         columnSpacing: Style.spaceMedium
-        rowSpacing: Style.spaceMedium
+        rowSpacing: Style.spaceSmall
 
         Repeater {
             model: root.rows
@@ -71,8 +72,7 @@ WidgetCard {
             WidgetLabeledText {
                 required property var modelData
 
-                Layout.fillWidth: true
-                Layout.preferredWidth: 1
+                width: (grid.width - (grid.columns - 1) * grid.columnSpacing) / grid.columns
                 label: modelData.label
                 text: modelData.text
             }

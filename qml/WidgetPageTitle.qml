@@ -51,8 +51,9 @@ Rectangle {
             text: root.title
             textFormat: Text.PlainText
             horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
             elide: Text.ElideRight
-            maximumLineCount: 1
+            maximumLineCount: 2
             color: Style.text
             font.family: Style.fontFamily
             font.pixelSize: Style.fontHeading

@@ -18,14 +18,16 @@
 
 #include <memory>
 #include <mutex>
+#include <utility>
 
 namespace orvex::Test {
 
-/// Keeps the warnings that Qt and the documents utter while it lives.
+/// Keeps what Qt and the documents utter while it lives.
 class WarningCapture {
 public:
     WarningCapture() {
         all().clear();
+        notes().clear();
         qInstallMessageHandler(&take);
     }
     ~WarningCapture() { qInstallMessageHandler(nullptr); }
@@ -36,19 +38,26 @@ public:
         const std::lock_guard lock(mutex());
         return all();
     }
+    /// What was no warning, since the last call.
+    static QStringList takeNotes() {
+        const std::lock_guard lock(mutex());
+        return std::exchange(notes(), {});
+    }
 
 private:
     static void take(QtMsgType type, const QMessageLogContext&, const QString& text) {
-        if (type != QtDebugMsg && type != QtInfoMsg) {
-            const std::lock_guard lock(mutex());
-            all() << text;
-        }
+        const std::lock_guard lock(mutex());
+        (type == QtDebugMsg || type == QtInfoMsg ? notes() : all()) << text;
     }
     static std::mutex& mutex() {
         static std::mutex m;
         return m;
     }
     static QStringList& all() {
+        static QStringList list;
+        return list;
+    }
+    static QStringList& notes() {
         static QStringList list;
         return list;
     }
@@ -118,7 +127,7 @@ public:
         return byPlace.values();
     }
 
-private:
+    /// The visible items of that name.
     static QList<QQuickItem*> items(QQuickItem* parent, const QString& name) {
         QList<QQuickItem*> found;
         for (QQuickItem* child : parent->childItems()) {
@@ -133,6 +142,7 @@ private:
         return found;
     }
 
+private:
     Velto::ComponentConfigurator m_components;
     std::shared_ptr<Facade> m_facade;
     std::unique_ptr<QQmlApplicationEngine> m_engine = std::make_unique<QQmlApplicationEngine>();

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "tests/device/ProgramLogCapture.h"
+#include "tests/e2e/ShownWindow.h"
+
+namespace orvex::Test {
+
+/// A person at the window: looks for what is shown, presses it, types, and sees which page comes.
+class NavigationFixture : public WindowFixture {
+protected:
+    void SetUp() override {
+        WindowFixture::SetUp();
+        spdlog::get("orvex.QuiveraApp")->set_level(spdlog::level::trace);
+        window.window()->resize(800, 1600);
+        window.window()->requestActivate();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.window()));
+        // The splash.
+        QTest::mouseClick(window.window(), Qt::LeftButton, {}, QPoint(400, 5));
+        ASSERT_TRUE(stack("WindowMain"));
+    }
+
+    QQuickItem* stack(const QString& windowName) const {
+        QList<QQuickItem*> open{window.window()->contentItem()};
+        while (!open.isEmpty()) {
+            QQuickItem* const item = open.takeFirst();
+            if (item->property("windowName") == windowName) {
+                return item;
+            }
+            open << item->childItems();
+        }
+        return nullptr;
+    }
+
+    QQuickItem* shownStack() const {
+        QQuickItem* const setup = stack("WindowSetup");
+        return setup->isVisible() ? setup : stack("WindowMain");
+    }
+
+    QString shownPage() const { return shownStack()->property("currentId").toString(); }
+
+    /// Whether that page comes within 30 s (or is there already).
+    bool arrives(const QString& page) const {
+        const bool here = QTest::qWaitFor([&] { return shownPage() == page; }, 30000);
+        EXPECT_EQ(shownPage(), page);
+        return here;
+    }
+
+    /// The visible item of that name, as soon as it can be pressed; none after 30 s.
+    QQuickItem* awaitItem(const QString& name) const {
+        QQuickItem* found = nullptr;
+        const bool here = QTest::qWaitFor(
+            [&] {
+                found = window.item(name);
+                return found && found->isEnabled() && found->width() > 0 &&
+                       !shownStack()->property("isSettling").toBool();
+            },
+            30000);
+        EXPECT_TRUE(here) << name.toStdString() << " on " << shownPage().toStdString();
+        return here ? found : nullptr;
+    }
+
+    void pressAt(QQuickItem* item) const {
+        if (item) {
+            const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+            QTest::mouseClick(window.window(), Qt::LeftButton, {}, centre.toPoint());
+        }
+    }
+
+    void press(const QString& name) const { pressAt(awaitItem(name)); }
+
+    /// Presses the Wi-Fi network of that name.
+    void pressNetwork(const QString& network) const {
+        QQuickItem* row = nullptr;
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                for (QQuickItem* item : ShownWindow::items(window.window()->contentItem(), "networkRow")) {
+                    if (item->property("networkName") == network) {
+                        row = item;
+                    }
+                }
+                return row && !shownStack()->property("isSettling").toBool();
+            },
+            30000));
+        pressAt(row);
+    }
+
+    void key(int code) const { QTest::keyClick(window.window(), static_cast<Qt::Key>(code)); }
+    void type(const QString& text) const {
+        for (const QChar letter : text) {
+            QTest::sendKeyEvent(QTest::Click, window.window(), Qt::Key_unknown, QString(letter),
+                                Qt::NoModifier);
+        }
+    }
+
+    /// What the page that is shown tells.
+    QString message() const {
+        QQuickItem* const text = window.item("messageText");
+        return text ? text->property("text").toString() : QString();
+    }
+
+    /// Each step since the last call: the page ids of the console lines.
+    QStringList steps() const {
+        QStringList pages;
+        for (const QString& line : WarningCapture::takeNotes()) {
+            if (line.startsWith("WindowMain: ") || line.startsWith("WindowSetup: ")) {
+                pages << line.section(QStringLiteral(": page"), 1);
+            }
+            EXPECT_FALSE(line.contains(secret));
+        }
+        return pages;
+    }
+
+    /// Reached by itself: the only unit around is opened.
+    Unit openOnlyUnit(const std::string& name) {
+        Unit unit = makeUnit("kelm", name);
+        EXPECT_TRUE(arrives("pageMain040DeviceInfo"));
+        EXPECT_EQ(steps(), QStringList{"Main040DeviceInfo"});
+        return unit;
+    }
+
+    void TearDown() override {
+        EXPECT_EQ(log.count(secret.toStdString()), 0U) << "a pass phrase in the log";
+        WindowFixture::TearDown();
+    }
+
+    const QString secret = QStringLiteral("correct horse 7");
+    ProgramLogCapture log;
+};
+
+} // namespace orvex::Test

@@ -1,0 +1,124 @@
+#include "tests/e2e/NavigationFixture.h"
+
+namespace orvex::Test {
+namespace {
+
+using NavigationTest = NavigationFixture;
+
+TEST_F(NavigationTest, RenamesAUnitWithTheKeyboardAlone) {
+    const Unit unit = openOnlyUnit("Sofa");
+    QQuickItem* const about = awaitItem("rightButton");
+    ASSERT_TRUE(about);
+    for (int i = 0; i < 40 && !about->hasActiveFocus(); ++i) {
+        key(Qt::Key_Tab);
+    }
+    ASSERT_TRUE(about->property("visualFocus").toBool());
+    key(Qt::Key_Return);
+    ASSERT_TRUE(arrives("pageMain070DeviceAbout"));
+    key(Qt::Key_Tab);
+    key(Qt::Key_Tab);
+    EXPECT_TRUE(window.item("rightButton")->hasActiveFocus());
+    key(Qt::Key_Space);
+    ASSERT_TRUE(arrives("pageMain071DeviceRename"));
+    QTest::keySequence(window.window(), QKeySequence::SelectAll);
+    type(QStringLiteral("Arm<b>chair"));
+    key(Qt::Key_Return);
+    ASSERT_TRUE(arrives("pageMain070DeviceAbout"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return unit->state().name == "Arm<b>chair"; }, 10000));
+    EXPECT_EQ(window.item("titleText")->property("text"), QStringLiteral("Arm<b>chair"));
+
+    // Without a change nothing is sent, and the page's own polling goes on.
+    press("rightButton");
+    press("doneButton");
+    ASSERT_TRUE(arrives("pageMain070DeviceAbout"));
+    const auto read = unit->counters().requestsOf("GetKelmName");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return unit->counters().requestsOf("GetKelmName") > read; }, 10000));
+    EXPECT_EQ(unit->counters().requestsOf("SetKelmName"), 1U);
+    press("rightButton");
+    key(Qt::Key_Escape);
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(arrives("pageMain040DeviceInfo"));
+    EXPECT_TRUE(window.item("rightButton")->hasActiveFocus()) << "the focus returns to where it was";
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(arrives("pageMain010DeviceList"));
+    EXPECT_EQ(steps(), (QStringList{"Main070DeviceAbout", "Main071DeviceRename", "Main070DeviceAbout",
+                                    "Main071DeviceRename", "Main070DeviceAbout", "Main071DeviceRename",
+                                    "Main070DeviceAbout", "Main040DeviceInfo", "Main010DeviceList"}));
+    ASSERT_TRUE(shows({"Arm<b>chair (Local) | KELM"}));
+}
+
+TEST_F(NavigationTest, ResetsTheNetworkOnlyWhenThatIsConfirmed) {
+    const Unit unit = openOnlyUnit("Sofa");
+    press("infoIcon");
+    ASSERT_TRUE(arrives("pageMain050NetworkStatus"));
+    EXPECT_EQ(window.item("connectionStatus")->property("text"), QStringLiteral("Connected to the network"));
+    press("resetButton");
+    ASSERT_TRUE(arrives("pageMain051NetworkReset"));
+    EXPECT_TRUE(message().startsWith("This will remove all personalized network settings"));
+    press("button2");
+    ASSERT_TRUE(arrives("pageMain050NetworkStatus"));
+    EXPECT_EQ(unit->counters().requestsOf("SetWifiSetting"), 0U);
+    press("resetButton");
+    press("button1");
+    ASSERT_TRUE(arrives("pageMain052NetworkResetWait"));
+    EXPECT_EQ(message(), "Resetting...");
+    ASSERT_TRUE(arrives("pageMain053NetworkResetDone"));
+    EXPECT_EQ(message(), "Your Quivera device\nnetwork settings\nare reset.");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return unit->state().network.hotspotActive; }, 10000));
+    press("button1");
+    ASSERT_TRUE(arrives("pageMain010DeviceList"));
+    EXPECT_EQ(steps(), (QStringList{"Main050NetworkStatus", "Main051NetworkReset", "Main050NetworkStatus",
+                                    "Main051NetworkReset", "Main052NetworkResetWait",
+                                    "Main053NetworkResetDone", "Main010DeviceList"}));
+    ASSERT_TRUE(shows({"Sofa (Local) | KELM | Network Setup Required"}));
+}
+
+TEST_F(NavigationTest, OpensEachPageOfAUnitAndComesBack) {
+    const Unit unit = openOnlyUnit("Sofa");
+    const std::pair<const char*, const char*> ways[] = {{"infoIcon", "pageMain050NetworkStatus"},
+                                                        {"mediaListButton", "pageMain080MediaList"},
+                                                        {"seatHealth", "pageMain076DetailedStatus"},
+                                                        {"rightButton", "pageMain070DeviceAbout"}};
+    for (const auto& [button, page] : ways) {
+        press(button);
+        ASSERT_TRUE(arrives(page));
+        press("backButton");
+        ASSERT_TRUE(arrives("pageMain040DeviceInfo"));
+    }
+}
+
+TEST_F(NavigationTest, TakesADoubleClickForOneStepAndPressesNothingOnThePageThatComes) {
+    const Unit sofa = makeUnit("kelm", "Sofa");
+    const Unit hub = makeUnit("hub", "Hub");
+    ASSERT_TRUE(shows({"Hub (Local) | Quivera Hub", "Sofa (Local) | KELM"}));
+    QQuickItem* const row = awaitItem("deviceRow");
+    pressAt(row);
+    pressAt(row);
+    EXPECT_EQ(steps(), QStringList{"Main040DeviceInfo"});
+    QQuickItem* const back = awaitItem("backButton");
+    pressAt(back);
+    pressAt(back);
+    EXPECT_TRUE(awaitItem("deviceRow"));
+    EXPECT_EQ(steps(), QStringList{"Main010DeviceList"});
+}
+
+TEST_F(NavigationTest, ReturnsToTheUnitsPageWhenTheUnitGoesWhileItsNameIsTyped) {
+    const Unit unit = openOnlyUnit("Sofa");
+    press("rightButton");
+    press("rightButton");
+    ASSERT_TRUE(arrives("pageMain071DeviceRename"));
+    type("x");
+    unit->stop();
+    ASSERT_TRUE(arrives("pageMain040DeviceInfo"));
+    key(Qt::Key_Return);
+    EXPECT_EQ(steps(), (QStringList{"Main070DeviceAbout", "Main071DeviceRename", "Main040DeviceInfo"}));
+    unit->start();
+    const auto asked = unit->counters().requestsOf("GetNetworkState");
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return unit->counters().requestsOf("GetNetworkState") > asked; }, 60000))
+        << "the page recovers by itself";
+    EXPECT_EQ(unit->counters().requestsOf("SetKelmName"), 0U);
+}
+
+} // namespace
+} // namespace orvex::Test
