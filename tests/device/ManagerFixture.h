@@ -93,15 +93,15 @@ protected:
         return condition();
     }
 
-    /// Lets time flow, ten times as fast as it does, until the condition holds. For units that do not answer,
-    /// and for what they do in their own time.
+    /// Lets time flow faster than it does, this many ms for every 5, until the condition holds. For units
+    /// that do not answer, and for what they do in their own time.
     template <class Condition>
-    bool comes(Condition condition) {
+    bool comes(Condition condition, int pace = 50) {
         QElapsedTimer waited;
         waited.start();
         while (!condition() && waited.elapsed() < patience) {
             QTest::qWait(5);
-            pass(50);
+            pass(pace);
         }
         return condition();
     }
