@@ -12,10 +12,12 @@ PageMain040DeviceInfoForm {
     signal detailedStatusRequested
 
     // The modes by their value.
-    readonly property int codedVideo: 0
-    readonly property int codedGaming: 1
-    readonly property int adaptiveAudio: 2
-    readonly property int adaptiveGaming: 3
+    readonly property var modeCards: ({
+            0: codedVideoCard,
+            1: codedGamingCard,
+            2: adaptiveAudioCard,
+            3: adaptiveGamingCard
+        })
 
     // Two columns of cards.
     readonly property bool isWide: width >= Style.twoColumnsFrom && showsSettings
@@ -26,14 +28,15 @@ PageMain040DeviceInfoForm {
     readonly property bool showsSettings: currDevice.detailsValid || (needsUpdate && currDevice.experienceModeList.length > 0)
     readonly property bool takesSettings: currDevice.online && showsSettings && !currDevice.experienceModeIsInTransition
 
-    // Programs come and go while this one runs.
+    // The programs on this PC; they come and go while this one runs.
+    property bool hasAdaptiveGamingApp: false
+    property bool hasCodedGamingApp: false
+    property bool hasControlPanelApp: false
+
     function lookForCompanions() {
-        adaptiveGamingCard.companion.isInstalled = api.isAdaptiveGamingConfigAppValid();
-        codedGamingCard.companion.isInstalled = api.isCodedGamingConfigAppValid();
-        hapticCard.companion.isInstalled = api.isControlPanelConfigAppValid();
-        for (const companion of [adaptiveGamingCard.companion, codedGamingCard.companion, hapticCard.companion]) {
-            companion.hasFailed = false;
-        }
+        hasAdaptiveGamingApp = api.isAdaptiveGamingConfigAppValid();
+        hasCodedGamingApp = api.isCodedGamingConfigAppValid();
+        hasControlPanelApp = api.isControlPanelConfigAppValid();
     }
 
     onVisibleChanged: {
@@ -131,56 +134,86 @@ PageMain040DeviceInfoForm {
     modeCard.errorMessage: currDevice.experienceModeErrorMessage
     modeCard.onEdited: currDevice.currExperienceModeIndex = index
 
+    // Made when they are shown: each has many controls.
+    modeSettings.active: showsSettings
+    modeSettings.sourceComponent: modeCards[mode] || null
     modeSettings.enabled: takesSettings
-
-    codedVideoCard.visible: mode === codedVideo
-    codedVideoCard.audioSource.devices: currDevice.captureDevices
-    codedVideoCard.audioSource.deviceIndex: currDevice.currCaptureDeviceIndex
-    codedVideoCard.audioSource.onEdited: currDevice.currCaptureDeviceIndex = index
-    codedVideoCard.isOutput: currDevice.isCaptureDeviceOut
-    codedVideoCard.automaticVolume: currDevice.automaticVolumeControl
-    codedVideoCard.motionDelay: currDevice.motionDelay
-    codedVideoCard.recognitionTolerance: currDevice.recognitionTolerance
-    codedVideoCard.settling: currDevice.settling
-    codedVideoCard.media.mediaTitle: currDevice.mediaTitle
-    codedVideoCard.media.mediaOffset: currDevice.mediaOffset
-    codedVideoCard.media.mediaDuration: currDevice.mediaDuration
-    codedVideoCard.media.mediaProgress: currDevice.mediaProgress
-    codedVideoCard.media.audioSourceType: currDevice.audioSourceStatus.type
-    codedVideoCard.media.audioSourceText: currDevice.audioSourceStatus.text
-    codedVideoCard.media.motionCodeType: currDevice.motionCodeStatus.type
-    codedVideoCard.media.motionCodeText: currDevice.motionCodeStatus.text
-    codedVideoCard.onAutomaticVolumeEdited: currDevice.automaticVolumeControl = value
-    codedVideoCard.onMotionDelayEdited: currDevice.motionDelay = value
-    codedVideoCard.onRecognitionToleranceEdited: currDevice.recognitionTolerance = value
-    codedVideoCard.onMediaListClicked: root.mediaListRequested()
-
-    adaptiveAudioCard.visible: mode === adaptiveAudio
-    adaptiveAudioCard.audioSource.devices: currDevice.captureDevices
-    adaptiveAudioCard.audioSource.deviceIndex: currDevice.currCaptureDeviceIndex
-    adaptiveAudioCard.audioSource.onEdited: currDevice.currCaptureDeviceIndex = index
-    adaptiveAudioCard.volumeMin: currDevice.captureVolumeMin
-    adaptiveAudioCard.volumeMax: currDevice.captureVolumeMax
-    adaptiveAudioCard.volumeStep: currDevice.captureVolumeStep
-    adaptiveAudioCard.captureVolume: currDevice.captureVolume
-    adaptiveAudioCard.ignoresVoice: currDevice.adaptiveAudioParameters
-    adaptiveAudioCard.settling: currDevice.settling
-    adaptiveAudioCard.onCaptureVolumeEdited: currDevice.captureVolume = value
-    adaptiveAudioCard.onIgnoresVoiceEdited: currDevice.adaptiveAudioParameters = value
-
-    adaptiveGamingCard.visible: mode === adaptiveGaming
-    adaptiveGamingCard.profile: currDevice.adaptiveGamingSelectedProfile
-    adaptiveGamingCard.companion.onClicked: adaptiveGamingCard.companion.hasFailed = !api.startAdaptiveGamingConfigApp()
-
-    codedGamingCard.visible: mode === codedGaming
-    codedGamingCard.companion.onClicked: codedGamingCard.companion.hasFailed = !api.startCodedGamingConfigApp()
 
     outputs.visible: showsSettings
     outputs.enabled: takesSettings
     hapticCard.seats: seatListModel
     hapticCard.settling: currDevice.settling
     hapticCard.onSeatHealthClicked: root.detailedStatusRequested()
+    hapticCard.companion.isInstalled: hasControlPanelApp
     hapticCard.companion.onClicked: hapticCard.companion.hasFailed = !api.startControlPanelConfigApp()
 
     softwareCard.programs: currDevice.softwareHealthList
+
+    Component {
+        id: codedVideoCard
+
+        WidgetCodedVideoCard {
+            objectName: "codedVideoCard"
+            audioSource.devices: currDevice.captureDevices
+            audioSource.deviceIndex: currDevice.currCaptureDeviceIndex
+            audioSource.onEdited: currDevice.currCaptureDeviceIndex = index
+            isOutput: currDevice.isCaptureDeviceOut
+            automaticVolume: currDevice.automaticVolumeControl
+            motionDelay: currDevice.motionDelay
+            recognitionTolerance: currDevice.recognitionTolerance
+            settling: currDevice.settling
+            media.mediaTitle: currDevice.mediaTitle
+            media.mediaOffset: currDevice.mediaOffset
+            media.mediaDuration: currDevice.mediaDuration
+            media.mediaProgress: currDevice.mediaProgress
+            media.audioSourceType: currDevice.audioSourceStatus.type
+            media.audioSourceText: currDevice.audioSourceStatus.text
+            media.motionCodeType: currDevice.motionCodeStatus.type
+            media.motionCodeText: currDevice.motionCodeStatus.text
+            onAutomaticVolumeEdited: currDevice.automaticVolumeControl = value
+            onMotionDelayEdited: currDevice.motionDelay = value
+            onRecognitionToleranceEdited: currDevice.recognitionTolerance = value
+            onMediaListClicked: root.mediaListRequested()
+        }
+    }
+
+    Component {
+        id: adaptiveAudioCard
+
+        WidgetAdaptiveAudioCard {
+            objectName: "adaptiveAudioCard"
+            audioSource.devices: currDevice.captureDevices
+            audioSource.deviceIndex: currDevice.currCaptureDeviceIndex
+            audioSource.onEdited: currDevice.currCaptureDeviceIndex = index
+            volumeMin: currDevice.captureVolumeMin
+            volumeMax: currDevice.captureVolumeMax
+            volumeStep: currDevice.captureVolumeStep
+            captureVolume: currDevice.captureVolume
+            ignoresVoice: currDevice.adaptiveAudioParameters
+            settling: currDevice.settling
+            onCaptureVolumeEdited: currDevice.captureVolume = value
+            onIgnoresVoiceEdited: currDevice.adaptiveAudioParameters = value
+        }
+    }
+
+    Component {
+        id: adaptiveGamingCard
+
+        WidgetAdaptiveGamingCard {
+            objectName: "adaptiveGamingCard"
+            profile: currDevice.adaptiveGamingSelectedProfile
+            companion.isInstalled: root.hasAdaptiveGamingApp
+            companion.onClicked: companion.hasFailed = !api.startAdaptiveGamingConfigApp()
+        }
+    }
+
+    Component {
+        id: codedGamingCard
+
+        WidgetCodedGamingCard {
+            objectName: "codedGamingCard"
+            companion.isInstalled: root.hasCodedGamingApp
+            companion.onClicked: companion.hasFailed = !api.startCodedGamingConfigApp()
+        }
+    }
 }

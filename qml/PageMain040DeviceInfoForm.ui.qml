@@ -16,10 +16,6 @@ Rectangle {
     property alias settings: settings
     property alias modeCard: modeCard
     property alias modeSettings: modeSettings
-    property alias codedVideoCard: codedVideoCard
-    property alias adaptiveAudioCard: adaptiveAudioCard
-    property alias adaptiveGamingCard: adaptiveGamingCard
-    property alias codedGamingCard: codedGamingCard
     property alias outputs: outputs
     property alias hapticCard: hapticCard
     property alias softwareCard: softwareCard
@@ -84,33 +80,9 @@ Rectangle {
                             width: parent.width
                         }
 
-                        Column {
+                        Loader {
                             id: modeSettings
                             width: parent.width
-
-                            WidgetCodedVideoCard {
-                                id: codedVideoCard
-                                objectName: "codedVideoCard"
-                                width: parent.width
-                            }
-
-                            WidgetAdaptiveAudioCard {
-                                id: adaptiveAudioCard
-                                objectName: "adaptiveAudioCard"
-                                width: parent.width
-                            }
-
-                            WidgetAdaptiveGamingCard {
-                                id: adaptiveGamingCard
-                                objectName: "adaptiveGamingCard"
-                                width: parent.width
-                            }
-
-                            WidgetCodedGamingCard {
-                                id: codedGamingCard
-                                objectName: "codedGamingCard"
-                                width: parent.width
-                            }
                         }
                     }
                 }

@@ -57,7 +57,7 @@ PageMain080MediaListForm {
 
     isTable: body.width >= Style.tableFrom
 
-    pageTitle.title: qsTr("ORVEX CODED TITLES")
+    pageTitle.title: qsTr("CODED TITLES")
     pageTitle.details: currDevice.name
     pageTitle.canGoBack: true
     pageTitle.onButtonBackClicked: root.buttonBackClicked()

@@ -14,7 +14,7 @@ WidgetCard {
     property bool settling: false
 
     // The delays and times that a person may choose from, in ms and s.
-    readonly property int longestDelay: 500
+    readonly property int longestDelay: 1000
     readonly property int delayStep: 10
     readonly property int longestTolerance: 60
 

@@ -9,6 +9,15 @@ T.ComboBox {
 
     property string accessibleName
     property string description
+    property bool openedByKey: false
+
+    // With what is chosen highlighted, as after a click.
+    function open() {
+        popup.open();
+        for (let row = highlightedIndex; row < currentIndex; ++row) {
+            incrementCurrentIndex();
+        }
+    }
 
     implicitWidth: 200
     implicitHeight: Style.touchTarget
@@ -21,7 +30,7 @@ T.ComboBox {
     Accessible.role: Accessible.ComboBox
     Accessible.name: root.accessibleName
     Accessible.description: root.description
-    Accessible.onPressAction: popup.open()
+    Accessible.onPressAction: root.open()
 
     onEnabledChanged: {
         if (!enabled) {
@@ -32,8 +41,14 @@ T.ComboBox {
         const opens = [Qt.Key_Down, Qt.Key_Up, Qt.Key_Return, Qt.Key_Enter].includes(event.key);
         event.accepted = opens && !popup.visible;
         if (event.accepted) {
-            popup.open();
+            openedByKey = true;
+            root.open();
         }
+    }
+    // The release of the key that opened the list would choose from it.
+    Keys.onReleased: {
+        event.accepted = openedByKey;
+        openedByKey = openedByKey && event.isAutoRepeat;
     }
 
     background: WidgetBackground {

@@ -14,6 +14,8 @@ Column {
 
     signal clicked
 
+    onVisibleChanged: hasFailed = false
+
     spacing: Style.spaceTiny
 
     ButtonText {

@@ -15,12 +15,19 @@ Item {
     readonly property var look: Style.detailStatus(status)
     // Deep modules stay readable on a narrow window.
     readonly property int indent: Math.min(level * Style.spaceLarge, width / 3)
+    readonly property bool isNarrow: width < Style.tableFrom
+    readonly property int lines: isNarrow ? 3 : 2
     readonly property int nameWidth: valueText.text.length > 0 ? (width - nameText.x) * 0.55 : width - nameText.x - Style.spaceSmall
 
-    height: Style.detailRowHeight
+    height: isNarrow ? Style.listRowHeight : Style.detailRowHeight
     Accessible.role: Accessible.ListItem
     Accessible.name: root.value.length > 0 ? qsTr("%1: %2").arg(root.name).arg(root.value) : root.name
     Accessible.description: root.look.meaning
+
+    WidgetWholeText {
+        texts: [nameText, valueText]
+        isCurrent: root.isCurrent
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -57,7 +64,7 @@ Item {
         width: root.nameWidth
         height: parent.height
         text: root.name
-        maximumLineCount: 2
+        maximumLineCount: root.lines
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
         horizontalAlignment: Text.AlignLeft
@@ -72,7 +79,7 @@ Item {
         width: Math.max(0, root.width - x - Style.spaceSmall)
         height: parent.height
         text: root.value
-        maximumLineCount: 2
+        maximumLineCount: root.lines
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
         horizontalAlignment: Text.AlignRight

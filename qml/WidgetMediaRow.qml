@@ -29,6 +29,11 @@ Item {
     Accessible.name: oneLineTitle
     Accessible.description: [releaseDate, duration, cut, language].filter(text => text.length > 0).join(", ")
 
+    WidgetWholeText {
+        texts: [titleText, furtherText]
+        isCurrent: root.isCurrent
+    }
+
     Rectangle {
         anchors.fill: parent
         visible: root.isCurrent
@@ -59,6 +64,7 @@ Item {
     }
 
     WidgetText {
+        id: furtherText
         x: Style.spaceSmall
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Style.spaceSmall

@@ -22,7 +22,7 @@ WidgetSeatForm {
     signal motionEdited(real value)
     signal vibrationEdited(real value)
 
-    // The levels that a seat takes, in its own steps; 0 is the strongest.
+    // The levels that a seat takes, in dB; 0 is the strongest.
     readonly property int lowestLevel: -20
     readonly property int highestLevel: 0
 
@@ -40,6 +40,7 @@ WidgetSeatForm {
     muted.onEdited: root.mutedEdited(value)
 
     motion.label: qsTr("Motion")
+    motion.valueText: qsTr("%1 dB")
     motion.description: heading.text
     motion.from: lowestLevel
     motion.to: highestLevel
@@ -48,6 +49,7 @@ WidgetSeatForm {
     motion.onEdited: root.motionEdited(value)
 
     vibration.label: qsTr("Vibration")
+    vibration.valueText: qsTr("%1 dB")
     vibration.description: heading.text
     vibration.from: lowestLevel
     vibration.to: highestLevel

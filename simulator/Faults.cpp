@@ -1,5 +1,9 @@
 #include "Faults.h"
 
+#include <rapidjson/document.h>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
 #include <utility>
 
 namespace Simulator {
@@ -54,13 +58,54 @@ Outgoing wholeAnswer(const Faults& faults, const Header& header, std::string_vie
     return outgoing;
 }
 
-std::optional<Outgoing> faultyAnswer(const Faults& faults, const Header& header, std::string_view body) {
+/// A value of another kind in place of each, down to the last.
+void twist(rapidjson::Value& value) {
+    if (value.IsObject()) {
+        for (auto& member : value.GetObject())
+            twist(member.value);
+    } else if (value.IsArray() && !value.Empty()) {
+        for (auto& element : value.GetArray())
+            twist(element);
+    } else if (value.IsString()) {
+        value.SetInt(static_cast<int>(value.GetStringLength()));
+    } else if (value.IsBool() || value.IsArray()) {
+        value.SetString("false");
+    } else {
+        value.SetBool(true);
+    }
+}
+
+std::string twisted(std::string_view body) {
+    rapidjson::Document document;
+    document.Parse(body.data(), body.size());
+    if (document.HasParseError())
+        return R"(["no object"])"; // an answer without a body
+    twist(document);
+    rapidjson::StringBuffer buffer;
+    rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
+    document.Accept(writer);
+    return {buffer.GetString(), buffer.GetSize()};
+}
+
+Header misnamed(Header header) {
+    header.type = header.type == "GetUpdate" ? "GetKelmName" : "GetUpdate";
+    return header;
+}
+
+Header failed(Header header) {
+    header.kind = Velto::Wire::Kind::Error;
+    header.text = "the unit could not do it";
+    header.status = 4;
+    return header;
+}
+
+std::vector<Outgoing> faultyAnswer(const Faults& faults, const Header& header, std::string_view body) {
     Outgoing outgoing = wholeAnswer(faults, header, body);
     switch (faults.answer) {
     case AnswerFault::None:
         break;
     case AnswerFault::Drop:
-        return std::nullopt;
+        return {};
     case AnswerFault::StallMidFrame:
         outgoing.manner = Manner::HalfThenSilence;
         break;
@@ -70,6 +115,14 @@ std::optional<Outgoing> faultyAnswer(const Faults& faults, const Header& header,
     case AnswerFault::TruncateBody:
         outgoing.frame = truncated(header, body);
         break;
+    case AnswerFault::WrongTypes:
+        return {wholeAnswer(faults, header, twisted(body))};
+    case AnswerFault::OtherMessage:
+        return {wholeAnswer(faults, misnamed(header), body)};
+    case AnswerFault::Duplicate:
+        return {outgoing, outgoing};
+    case AnswerFault::Error:
+        return {wholeAnswer(faults, failed(header), {})};
     case AnswerFault::OversizeFrame:
         outgoing.frame = oversized(header);
         break;
@@ -83,18 +136,18 @@ std::optional<Outgoing> faultyAnswer(const Faults& faults, const Header& header,
         outgoing.manner = Manner::Reset;
         break;
     }
-    return outgoing;
+    return {outgoing};
 }
 
 } // namespace
 
-std::optional<Outgoing> spoil(const Faults& faults, const Header& header, std::string_view body) {
+std::vector<Outgoing> spoil(const Faults& faults, const Header& header, std::string_view body) {
     const bool meant = faults.types.empty() || faults.types.count(header.type) > 0;
-    auto outgoing = meant ? faultyAnswer(faults, header, body)
-                          : std::optional<Outgoing>(wholeAnswer(faults, header, body));
-    if (outgoing)
-        outgoing->delay = faults.delay;
-    return outgoing;
+    auto answers =
+        meant ? faultyAnswer(faults, header, body) : std::vector<Outgoing>{wholeAnswer(faults, header, body)};
+    for (Outgoing& outgoing : answers)
+        outgoing.delay = faults.delay;
+    return answers;
 }
 
 } // namespace Simulator

@@ -3,10 +3,10 @@
 #include "velto/wire/Envelope.h"
 
 #include <chrono>
-#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Simulator {
 
@@ -26,6 +26,10 @@ enum class AnswerFault {
     StallMidFrame,  ///< half of the frame, then silence on this connection for good, no pong either
     Garble,         ///< the header is not JSON
     TruncateBody,   ///< a whole frame whose body ends in the middle
+    WrongTypes,     ///< every member of the body holds another kind of value than it should
+    OtherMessage,   ///< the body comes under the name of another message
+    Duplicate,      ///< it comes twice
+    Error,          ///< an error of status 4 comes instead, though the unit did what was asked
     OversizeFrame,  ///< one byte over the limit
     OversizeHeader, ///< a header over the limit
     Close,          ///< instead of it the connection is closed with code 1001
@@ -54,7 +58,7 @@ struct Outgoing {
     std::chrono::milliseconds interval{0}; ///< of a trickle
 };
 
-/// The answer as these faults let it out; none when it is dropped.
-std::optional<Outgoing> spoil(const Faults& faults, const Velto::Wire::Header& header, std::string_view body);
+/// What goes out in place of the answer: one frame, none when it is dropped, two when it comes twice.
+std::vector<Outgoing> spoil(const Faults& faults, const Velto::Wire::Header& header, std::string_view body);
 
 } // namespace Simulator

@@ -2,9 +2,13 @@
 
 #include <rapidjson/document.h>
 
+#include <array>
+#include <chrono>
 #include <cstdint>
+#include <limits>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Simulator {
@@ -38,6 +42,23 @@ public:
                  " is needed");
         return m_value.GetUint64();
     }
+    int integer(int minimum = std::numeric_limits<int>::min(),
+                int maximum = std::numeric_limits<int>::max()) const {
+        if (!m_value.IsInt() || m_value.GetInt() < minimum || m_value.GetInt() > maximum)
+            fail("a whole number from " + std::to_string(minimum) + " to " + std::to_string(maximum) +
+                 " is needed");
+        return m_value.GetInt();
+    }
+    double real(double minimum, double maximum) const {
+        if (!m_value.IsNumber() || m_value.GetDouble() < minimum || m_value.GetDouble() > maximum)
+            fail("a number from " + std::to_string(minimum) + " to " + std::to_string(maximum) +
+                 " is needed");
+        return m_value.GetDouble();
+    }
+    /// A time in milliseconds, a week at most.
+    std::chrono::milliseconds time() const {
+        return std::chrono::milliseconds(number(0, 7ULL * 24 * 60 * 60 * 1000));
+    }
     std::vector<JsonNode> elements() const {
         if (!m_value.IsArray())
             fail("a list is needed");
@@ -48,6 +69,7 @@ public:
     }
     bool has(const char* member) const { return m_value.IsObject() && m_value.HasMember(member); }
     const rapidjson::Value& value() const { return m_value; }
+    const std::string& place() const { return m_place; }
 
     /// Reads every member by the row of the table that bears its name; a member without one is an error.
     template <typename Target, typename Table>
@@ -82,5 +104,18 @@ struct JsonMember {
     const char* name;
     void (*read)(Target&, const JsonNode&);
 };
+
+/// The value that a table gives to the text.
+template <typename Value, std::size_t size>
+Value oneOf(const JsonNode& node, const std::array<std::pair<const char*, Value>, size>& words) {
+    const std::string text = node.text();
+    std::string known;
+    for (const auto& [word, value] : words) {
+        if (text == word)
+            return value;
+        known += (known.empty() ? "" : ", ") + std::string(word);
+    }
+    node.fail("\"" + text + "\" is not one of " + known);
+}
 
 } // namespace Simulator

@@ -1,6 +1,7 @@
 #include "Scenario.h"
 
 #include "simulator/JsonNode.h"
+#include "simulator/StateSettings.h"
 
 #include <rapidjson/error/en.h>
 #include <rapidjson/stringbuffer.h>
@@ -18,20 +19,7 @@ namespace Simulator {
 
 namespace {
 
-constexpr std::uint64_t longestTime = 7ULL * 24 * 60 * 60 * 1000; ///< ms; a week
 constexpr std::size_t maximumUnits = 100'000;
-
-template <typename Value, std::size_t size>
-Value oneOf(const JsonNode& node, const std::array<std::pair<const char*, Value>, size>& words) {
-    const std::string text = node.text();
-    std::string known;
-    for (const auto& [word, value] : words) {
-        if (text == word)
-            return value;
-        known += (known.empty() ? "" : ", ") + std::string(word);
-    }
-    node.fail("\"" + text + "\" is not one of " + known);
-}
 
 constexpr std::array<std::pair<const char*, ConnectionFault>, 5> connectionFaults{
     {{"none", ConnectionFault::None},
@@ -40,20 +28,20 @@ constexpr std::array<std::pair<const char*, ConnectionFault>, 5> connectionFault
      {"hangInTls", ConnectionFault::HangInTls},
      {"hangInUpgrade", ConnectionFault::HangInUpgrade}}};
 
-constexpr std::array<std::pair<const char*, AnswerFault>, 9> answerFaults{
+constexpr std::array<std::pair<const char*, AnswerFault>, 13> answerFaults{
     {{"none", AnswerFault::None},
      {"drop", AnswerFault::Drop},
      {"stallMidFrame", AnswerFault::StallMidFrame},
      {"garble", AnswerFault::Garble},
      {"truncateBody", AnswerFault::TruncateBody},
+     {"wrongTypes", AnswerFault::WrongTypes},
+     {"otherMessage", AnswerFault::OtherMessage},
+     {"duplicate", AnswerFault::Duplicate},
+     {"error", AnswerFault::Error},
      {"oversizeFrame", AnswerFault::OversizeFrame},
      {"oversizeHeader", AnswerFault::OversizeHeader},
      {"close", AnswerFault::Close},
      {"reset", AnswerFault::Reset}}};
-
-std::chrono::milliseconds timeIn(const JsonNode& node) {
-    return std::chrono::milliseconds(node.number(0, longestTime));
-}
 
 const std::vector<JsonMember<Faults>> faultMembers{
     {"connection",
@@ -64,8 +52,8 @@ const std::vector<JsonMember<Faults>> faultMembers{
          for (const JsonNode& type : node.elements())
              faults.types.insert(type.text());
      }},
-    {"delay", [](Faults& faults, const JsonNode& node) { faults.delay = timeIn(node); }},
-    {"trickle", [](Faults& faults, const JsonNode& node) { faults.trickle = timeIn(node); }},
+    {"delay", [](Faults& faults, const JsonNode& node) { faults.delay = node.time(); }},
+    {"trickle", [](Faults& faults, const JsonNode& node) { faults.trickle = node.time(); }},
     {"wrongKey", [](Faults& faults, const JsonNode& node) { faults.wrongKey = node.flag(); }},
 };
 
@@ -83,7 +71,8 @@ struct Verb {
     const char* takes;
 };
 
-constexpr std::array<Verb, 6> verbs{{{"rename", "name", nullptr},
+constexpr std::array<Verb, 7> verbs{{{"rename", "name", nullptr},
+                                     {"set", "state", nullptr},
                                      {"stop", nullptr, nullptr},
                                      {"start", nullptr, nullptr},
                                      {"fault", "fault", nullptr},
@@ -95,17 +84,22 @@ void readVerb(Action& action, const JsonNode& node) {
     const bool known = std::any_of(verbs.begin(), verbs.end(),
                                    [&action](const Verb& verb) { return action.verb == verb.name; });
     if (!known)
-        node.fail("\"" + action.verb + "\" is not one of rename, stop, start, fault, push, close");
+        node.fail("\"" + action.verb + "\" is not one of rename, set, stop, start, fault, push, close");
 }
 
 const std::vector<JsonMember<Action>> actionMembers{
-    {"at", [](Action& action, const JsonNode& node) { action.at = timeIn(node); }},
+    {"at", [](Action& action, const JsonNode& node) { action.at = node.time(); }},
     {"do", readVerb},
     {"name",
      [](Action& action, const JsonNode& node) {
          action.name = node.text();
          if (const std::string complaint = complaintAboutName(action.name); !complaint.empty())
              node.fail(complaint);
+     }},
+    {"state",
+     [](Action& action, const JsonNode& node) {
+         action.state = compact(node.value());
+         action.statePlace = node.place();
      }},
     {"fault", [](Action& action, const JsonNode& node) { node.read(action.faults, faultMembers); }},
     {"type", [](Action& action, const JsonNode& node) { action.notification.type = node.text(); }},
@@ -123,7 +117,7 @@ Action readAction(const JsonNode& node, std::size_t unit) {
             node.fail("\"" + action.verb + "\" needs \"" + verb.needs + "\"");
         if (action.verb != verb.name)
             continue;
-        for (const char* const member : {"name", "fault", "type", "body"}) {
+        for (const char* const member : {"name", "state", "fault", "type", "body"}) {
             const bool wanted = (verb.needs && std::string_view(member) == verb.needs) ||
                                 (verb.takes && std::string_view(member) == verb.takes);
             if (node.has(member) && !wanted)
@@ -155,6 +149,7 @@ const std::vector<JsonMember<UnitEntry>> unitMembers{
      [](UnitEntry& unit, const JsonNode& node) { unit.options.seats = node.number(0, maximumSeats); }},
     {"media",
      [](UnitEntry& unit, const JsonNode& node) { unit.options.media = node.number(0, maximumMedia); }},
+    {"state", [](UnitEntry& unit, const JsonNode& node) { unit.options.state = compact(node.value()); }},
     {"keyFolder", [](UnitEntry& unit, const JsonNode& node) { unit.options.keyFolder = node.text(); }},
     {"actions",
      [](UnitEntry& unit, const JsonNode& node) {
@@ -186,10 +181,15 @@ void readUnits(Target& target, const JsonNode& node) {
             unit.options.port = portAfter(unit.options.port, i);
         unit.place = i;
         nodes[i].read(unit, unitMembers);
+        const std::string unitPlace = "units[" + std::to_string(i) + "].";
         try {
             target.scenario.units.push_back(completed(unit.options));
+            UnitState state = initialState(target.scenario.units.back());
+            for (const Action& action : unit.actions)
+                if (!action.state.empty())
+                    applySettings(state, action.state, action.statePlace.substr(unitPlace.size()));
         } catch (const std::invalid_argument& error) {
-            throw std::invalid_argument("units[" + std::to_string(i) + "]." + error.what());
+            throw std::invalid_argument(unitPlace + error.what());
         }
         std::move(unit.actions.begin(), unit.actions.end(), std::back_inserter(target.scenario.actions));
     }

@@ -23,8 +23,10 @@ class SimulatorHost;
 struct Action {
     std::chrono::milliseconds at{0};
     std::size_t unit = 0;      ///< its place in the scenario
-    std::string verb;          ///< "rename", "stop", "start", "fault", "push" or "close"
+    std::string verb;          ///< "rename", "set", "stop", "start", "fault", "push" or "close"
     std::string name;          ///< of "rename"
+    std::string state;         ///< of "set": settings as of StateSettings.h
+    std::string statePlace;    ///< where they stand in the file
     Faults faults;             ///< of "fault", which replaces all that was set before
     Notification notification; ///< of "push"
 };

@@ -1,6 +1,7 @@
 #include "Scenario.h"
 #include "simulator/SimulatedUnit.h"
 #include "simulator/SimulatorHost.h"
+#include "simulator/StateSettings.h"
 
 #include <array>
 #include <exception>
@@ -15,8 +16,12 @@ struct Deed {
     void (*act)(SimulatedUnit&, const Action&);
 };
 
-constexpr std::array<Deed, 6> deeds{{
+constexpr std::array<Deed, 7> deeds{{
     {"rename", [](SimulatedUnit& unit, const Action& action) { unit.rename(action.name); }},
+    {"set",
+     [](SimulatedUnit& unit, const Action& action) {
+         unit.changeState([&action](UnitState& state) { applyAndTell(state, action.state, "state"); });
+     }},
     {"stop", [](SimulatedUnit& unit, const Action&) { unit.stop(); }},
     {"start", [](SimulatedUnit& unit, const Action&) { unit.start(); }},
     {"fault", [](SimulatedUnit& unit, const Action& action) { unit.setFaults(action.faults); }},

@@ -126,6 +126,7 @@ private:
     }
     void followNetwork();
     void complain(ConnectionId connection, const std::string& type, std::uint32_t number, const char* why);
+    void reply(ConnectionId connection, const Header& header, std::string_view body);
     void settle(ConnectionId asker = 0);
 
     HostLoop& m_loop;
@@ -168,9 +169,8 @@ void SimulatedUnit::Core::frameReceived(ConnectionId connection, std::string_vie
     const bool done = answer.status == Status::Ok;
     const Header header{done ? Kind::Response : Kind::Error, asked.type, asked.number, answer.text,
                         static_cast<std::int32_t>(answer.status)};
-    auto outgoing = answer.withheld ? std::nullopt : spoil(m_faults, header, answer.body);
-    if (outgoing)
-        m_server.send(connection, std::move(*outgoing));
+    if (!answer.withheld)
+        reply(connection, header, answer.body);
     settle(connection);
 }
 
@@ -178,8 +178,12 @@ void SimulatedUnit::Core::complain(ConnectionId connection, const std::string& t
                                    const char* why) {
     ++m_counters.malformed;
     const Header header{Kind::Error, type, number, why, static_cast<std::int32_t>(Status::Malformed)};
-    if (auto outgoing = spoil(m_faults, header, {}))
-        m_server.send(connection, std::move(*outgoing));
+    reply(connection, header, {});
+}
+
+void SimulatedUnit::Core::reply(ConnectionId connection, const Header& header, std::string_view body) {
+    for (Outgoing& outgoing : spoil(m_faults, header, body))
+        m_server.send(connection, std::move(outgoing));
 }
 
 /// A unit that left its network hears and says nothing; on the next one it may have another address.

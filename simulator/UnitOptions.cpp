@@ -64,6 +64,7 @@ UnitOptions completed(UnitOptions options) {
     require(!error, "address: \"" + options.address + "\" is not an IP address");
     require(options.seats <= maximumSeats, "seats: at most " + std::to_string(maximumSeats));
     require(options.media <= maximumMedia, "media: at most " + std::to_string(maximumMedia));
+    initialState(options); // throws for settings that cannot be
     return options;
 }
 

@@ -33,6 +33,7 @@ struct UnitOptions {
     bool accessPoint = false; ///< not joined to a network: its own access point is up
     std::size_t seats = 2;
     std::size_t media = 24;
+    std::string state;     ///< settings of its first state, as of StateSettings.h; empty: none
     std::string keyFolder; ///< empty: a new key each time; otherwise kept there, so that the uid stays
 };
 
@@ -41,8 +42,8 @@ constexpr std::size_t maximumMedia = 1'000'000;
 constexpr std::size_t maximumSerial = 64; ///< what a certificate's name holds
 
 /// Fills in what was left empty. Throws std::invalid_argument, whose text begins with the option's name, for
-/// an unknown product, a bad serial number, a name the unit itself would refuse, an address that is none, or
-/// too many seats or media entries.
+/// an unknown product, a bad serial number, a name the unit itself would refuse, an address that is none,
+/// too many seats or media entries, or settings that cannot be.
 UnitOptions completed(UnitOptions options);
 
 } // namespace Simulator

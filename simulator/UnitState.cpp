@@ -1,5 +1,6 @@
 #include "UnitState.h"
 
+#include "simulator/StateSettings.h"
 #include "simulator/messages/Messages.h"
 
 #include <algorithm>
@@ -104,6 +105,8 @@ UnitState initialState(const UnitOptions& options) {
     }
     if (!options.accessPoint)
         playTitle(state, 0);
+    if (!options.state.empty())
+        applySettings(state, options.state, "state");
     return state;
 }
 

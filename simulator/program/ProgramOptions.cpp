@@ -39,6 +39,8 @@ po::options_description describe() {
         "TCP port of the first unit, the others count up; 0: any free ones");
     add("seats", number(2), "seats of each unit");
     add("media", number(24), "entries in the media list of each unit");
+    add("state", po::value<std::string>(),
+        "first state of each unit, as the JSON object of a scenario's \"state\"");
     add("access-point", "the units are not joined to a network and have their own access point up");
     add("plain", "no encryption");
     add("key-folder", po::value<std::string>(),
@@ -88,6 +90,7 @@ ProgramOptions parseCommandLine(int argc, const char* const* argv) {
     textInto(values, "name", options.unit.name);
     textInto(values, "serial", options.unit.serial);
     textInto(values, "address", options.unit.address);
+    textInto(values, "state", options.unit.state);
     textInto(values, "key-folder", options.unit.keyFolder);
     options.unit.port = static_cast<std::uint16_t>(numberIn(values, "port", maximumPort));
     options.unit.seats = numberIn(values, "seats", maximumSeats);

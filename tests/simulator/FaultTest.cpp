@@ -127,6 +127,23 @@ TEST_F(FaultyUnit, SpoilsAnswers) {
     const Frame truncated = ask(client, "GetKelmName");
     EXPECT_EQ(truncated.word("kind"), "response");
     EXPECT_EQ(truncated.bodyText, whole.substr(0, whole.size() / 2));
+    set(AnswerFault::WrongTypes);
+    EXPECT_EQ(ask(client, "GetKelmName").bodyText, R"({"kelmName":11})");
+    EXPECT_EQ(ask(client, "GetExperienceModes").bodyText,
+              R"({"selectedModeId":true,"state":2,"status":true,"statusMessage":2,)"
+              R"("experienceModes":[{"id":true},{"id":true},{"id":true},{"id":true}]})");
+    set(AnswerFault::OtherMessage);
+    const Frame misnamed = ask(client, "GetKelmName");
+    EXPECT_EQ(misnamed.word("type"), "GetUpdate");
+    EXPECT_EQ(misnamed.bodyText, whole);
+    set(AnswerFault::Duplicate);
+    EXPECT_EQ(ask(client, "GetKelmName").bodyText, whole);
+    EXPECT_EQ(receive(client).bodyText, whole);
+    set(AnswerFault::Error);
+    const Frame failed = ask(client, "GetKelmName");
+    EXPECT_EQ(failed.word("kind"), "error");
+    EXPECT_EQ(failed.status(), 4);
+    EXPECT_EQ(failed.bodyText, "");
     set(AnswerFault::OversizeHeader);
     EXPECT_EQ(client.send(request("GetKelmName")), "");
     const std::string longHeader = client.receive().value_or("");

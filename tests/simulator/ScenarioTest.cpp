@@ -89,12 +89,19 @@ TEST(Scenario, ErrorsNameTheFileAndTheMember) {
     EXPECT_EQ(placeInAction(R"("do":"fault","fault":{"answer":"loudly"})"),
               "units[0].actions[0].fault.answer");
     EXPECT_EQ(placeInAction(R"("do":"fault","fault":{"types":[1]})"), "units[0].actions[0].fault.types[0]");
+    EXPECT_EQ(placeInUnit(R"("state":{"seats":[{"index":3}]})"), "units[0].state.seats[0]");
+    EXPECT_EQ(placeInUnit(R"("state":{"experience":{"mode":1}})"), "units[0].state.experience.mode");
+    EXPECT_EQ(placeInUnit(R"("seats":3,"state":{"seats":[{"index":3,"motion":1}]})"),
+              "units[0].state.seats[0].motion");
+    EXPECT_EQ(placeInAction(R"("do":"set","state":{"wifi":{"fault":"odd"}})"),
+              "units[0].actions[0].state.wifi.fault");
     EXPECT_THROW(readScenario("/nowhere/file.json", {}), ScenarioError);
 }
 
 TEST(Scenario, ActionsHappenInTheirOrder) {
     const auto scenario = parseScenario(R"({"units":[{"actions":[
         {"at":60,"do":"stop"}, {"at":90,"do":"start"},
+        {"at":15,"do":"set","state":{"motionDelay":30,"wifi":{"joinTime":1}}},
         {"at":30,"do":"push","type":"GetSeatStatus","body":{"seat":[ ]}},
         {"at":0,"do":"rename","name":"Renamed"},
         {"at":0,"do":"fault","fault":{"connection":"hangInTls","answer":"drop","types":["GetUpgrade"],
@@ -109,6 +116,7 @@ TEST(Scenario, ActionsHappenInTheirOrder) {
     const ScenarioPlayer player(host, units, scenario.actions,
                                 [](const std::string& why) { ADD_FAILURE() << why; });
     EXPECT_STREQ(receive(client).body["kelmName"].GetString(), "Renamed");
+    EXPECT_EQ(receive(client).bodyText, R"({"motionDelay":30})");
     EXPECT_EQ(receive(client).bodyText, R"({"seat":[]})");
     EXPECT_FALSE(client.receive());
     EXPECT_TRUE(eventually([&] { return units[0]->isRunning(); }));
