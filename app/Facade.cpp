@@ -7,12 +7,11 @@
 #include "models/DetailedStatusModel.h"
 #include "models/DeviceListModel.h"
 #include "models/MediaListModel.h"
+#include "models/MediaListProxy.h"
 #include "models/SeatListModel.h"
 
 #include <Velto/ApplicationInfo.h>
 #include <Velto/Messaging/Messenger.h>
-
-#include <QRegularExpression>
 
 #include <utility>
 #include <vector>
@@ -63,7 +62,7 @@ Facade::Facade(std::string hostName)
     , m_deviceProxy(std::make_shared<DeviceInfoProxy>())
     , m_seatListModel(std::make_shared<SeatListModel>())
     , m_mediaListModel(std::make_shared<MediaListModel>())
-    , m_mediaProxy(new QSortFilterProxyModel(this))
+    , m_mediaProxy(new MediaListProxy(this))
     , m_detailedStatusModel(std::make_shared<DetailedStatusModel>()) {
     m_messenger = makeMessenger(m_hostName);
     m_communicator->setMessenger(m_messenger);
@@ -72,9 +71,6 @@ Facade::Facade(std::string hostName)
     m_seatListModel->setDeviceInfoManager(m_deviceManager);
     m_mediaListModel->setDeviceInfoManager(m_deviceManager);
     m_mediaProxy->setSourceModel(m_mediaListModel.get());
-    m_mediaProxy->setSortCaseSensitivity(Qt::CaseInsensitive);
-    m_mediaProxy->setFilterRole(MediaListModel::TitleRole);
-    m_mediaProxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_detailedStatusModel->setDeviceInfoManager(m_deviceManager);
     m_deviceManager->setCommunicator(m_communicator);
 }
@@ -112,40 +108,32 @@ void Facade::start() {
     m_messenger->connect(connectTimeout);
 }
 
-// The sort is stable: each pass decides among those that the next one holds equal.
 void Facade::sortMediaList(const QString& roleName, Qt::SortOrder order) {
-    const QHash<int, QByteArray> names = m_mediaListModel->roleNames();
-    const int role = names.key(roleName.toLatin1(), -1);
-    if (role < 0) {
-        return;
-    }
-    const auto pass = [this](int by, Qt::SortOrder direction) {
-        m_mediaProxy->setSortRole(by);
-        m_mediaProxy->sort(0, direction);
-    };
+    const int role = m_mediaListModel->roleNames().key(roleName.toLatin1(), -1);
     switch (role) {
+    case -1:
+        break;
     case MediaListModel::QuiveraCodeDateRole:
-        pass(MediaListModel::TitleRole, order);
-        pass(MediaListModel::ReleaseDateRole, order);
-        pass(MediaListModel::QuiveraCodeDateRole, order);
+        m_mediaProxy->setSortPasses({{MediaListModel::TitleRole, order},
+                                     {MediaListModel::ReleaseDateRole, order},
+                                     {MediaListModel::QuiveraCodeDateRole, order}});
         break;
     case MediaListModel::ReleaseDateRole:
-        pass(MediaListModel::TitleRole, order);
-        pass(MediaListModel::ReleaseDateRole, order);
+        m_mediaProxy->setSortPasses(
+            {{MediaListModel::TitleRole, order}, {MediaListModel::ReleaseDateRole, order}});
         break;
     case MediaListModel::DurationRole:
-        pass(MediaListModel::TitleRole, Qt::AscendingOrder);
-        pass(MediaListModel::DurationRole, order);
+        m_mediaProxy->setSortPasses(
+            {{MediaListModel::TitleRole, Qt::AscendingOrder}, {MediaListModel::DurationRole, order}});
         break;
     default:
-        pass(MediaListModel::TitleRole, order);
+        m_mediaProxy->setSortPasses({{MediaListModel::TitleRole, order}});
         break;
     }
 }
 
-// By its text: an expression object would bring its own case rule along.
 void Facade::filterMediaList(const QString& filter) {
-    m_mediaProxy->setFilterRegularExpression(filter);
+    m_mediaProxy->setFilter(MediaListModel::TitleRole, filter);
 }
 
 void Facade::filterDetailedStatusList(int filterId) {

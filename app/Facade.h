@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QSortFilterProxyModel>
 #include <QString>
 
 #include <memory>
@@ -19,6 +18,7 @@ class DeviceInfoManager;
 class DeviceInfoProxy;
 class DeviceListModel;
 class MediaListModel;
+class MediaListProxy;
 class SeatListModel;
 
 /// The root of the program's objects: makes the messenger, the core and the models, wires them, and offers
@@ -73,7 +73,7 @@ private:
     std::shared_ptr<DeviceInfoProxy> m_deviceProxy;
     std::shared_ptr<SeatListModel> m_seatListModel;
     std::shared_ptr<MediaListModel> m_mediaListModel;
-    QSortFilterProxyModel* m_mediaProxy; ///< a child of this object
+    MediaListProxy* m_mediaProxy; ///< a child of this object
     std::shared_ptr<DetailedStatusModel> m_detailedStatusModel;
 };
 

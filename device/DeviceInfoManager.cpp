@@ -17,7 +17,6 @@
 
 #include <orvex/Messaging/Discoverer.h>
 
-#include <QTimer>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -29,11 +28,11 @@ namespace orvex {
 
 namespace {
 
-constexpr int tickInterval = 800; // ms
+constexpr std::chrono::milliseconds tickInterval{800};
 constexpr int failuresToOffline = 2;
-constexpr int settingsBeat = 100;                 // ms, while settings wait to be sent
-constexpr int contentUpdateDelay = 500;           // ms
-constexpr std::uint32_t wiFiLoginTimeout = 10000; // ms
+constexpr std::chrono::milliseconds settingsBeat{100}; // while settings wait to be sent
+constexpr int contentUpdateDelay = 500;                // ms
+constexpr std::uint32_t wiFiLoginTimeout = 10000;      // ms
 
 } // namespace
 
@@ -60,9 +59,9 @@ struct DeviceInfoManager::States {
     SetDeviceWiFiState setDeviceWiFi;
 };
 
-DeviceInfoManager::DeviceInfoManager(std::function<Clock::time_point()> now)
+DeviceInfoManager::DeviceInfoManager(TimeSource& time)
     : m_discovered(std::make_shared<DiscoveryQueue>())
-    , m_now(std::move(now))
+    , m_time(time)
     , m_settings(std::make_unique<PendingSettings>())
     , m_states(std::make_unique<States>(*this))
     , m_state(&m_states->updateDeviceList) {}
@@ -118,11 +117,8 @@ void DeviceInfoManager::showingDeviceInfo() {
 }
 
 void DeviceInfoManager::triggerSubscriptionAndContentUpdate() {
-    QTimer::singleShot(contentUpdateDelay, this, [this] {
-        if (m_selected) {
-            queueSetting(std::make_shared<SetContentUpdateRequest>());
-        }
-    });
+    stopContentUpdateTimer();
+    m_contentUpdateTimerId = m_time.startTimer(*this, contentUpdateDelay, Qt::CoarseTimer);
 }
 
 void DeviceInfoManager::showingNetworkStatus() {
@@ -227,6 +223,10 @@ void DeviceInfoManager::setSeatSetting(std::shared_ptr<SeatInfo> seat) {
     queueAndShow(std::make_shared<SetSeatSettingRequest>(std::move(seat)), m_states->updateSelectedDevice);
 }
 
+bool DeviceInfoManager::isSeatSettingPending(int seatIndex) const {
+    return m_settings->holdsSeat(m_selected, seatIndex);
+}
+
 void DeviceInfoManager::queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState) {
     if (!m_selected) {
         return;
@@ -241,7 +241,7 @@ void DeviceInfoManager::queueAndShow(std::shared_ptr<DeviceUpdateRequest> reques
 /// then.
 void DeviceInfoManager::queueSetting(std::shared_ptr<DeviceUpdateRequest> request) {
     m_settings->add(m_selected, std::move(request));
-    startTimer(settingsBeat);
+    runTimer();
 }
 
 bool DeviceInfoManager::sendPendingSetting() {
@@ -271,31 +271,51 @@ void DeviceInfoManager::switchTo(State& state) {
     state.enter();
 }
 
-void DeviceInfoManager::startTimer(int milliseconds) {
+void DeviceInfoManager::startTimer(std::chrono::milliseconds interval) {
+    m_stateDue = m_time.now() + interval;
+    runTimer();
+}
+
+/// Settings that wait shorten the way to the next tick, not the interval of the state.
+void DeviceInfoManager::runTimer() {
     stopTimer();
+    auto interval = std::chrono::ceil<std::chrono::milliseconds>(m_stateDue - m_time.now());
     if (!m_settings->isEmpty()) {
-        milliseconds = std::min(milliseconds, settingsBeat);
+        interval = std::min(interval, settingsBeat);
     }
-    m_timerId = QObject::startTimer(milliseconds, Qt::CoarseTimer);
+    interval = std::max(interval, std::chrono::milliseconds::zero());
+    m_timerId = m_time.startTimer(*this, static_cast<int>(interval.count()), Qt::CoarseTimer);
 }
 
 void DeviceInfoManager::stopTimer() {
     if (m_timerId != 0) {
-        killTimer(std::exchange(m_timerId, 0));
+        m_time.stopTimer(*this, std::exchange(m_timerId, 0));
+    }
+}
+
+void DeviceInfoManager::stopContentUpdateTimer() {
+    if (m_contentUpdateTimerId != 0) {
+        m_time.stopTimer(*this, std::exchange(m_contentUpdateTimerId, 0));
     }
 }
 
 void DeviceInfoManager::timerEvent(QTimerEvent* event) {
-    if (event->timerId() != m_timerId) {
-        return;
+    if (event->timerId() == m_timerId) {
+        stopTimer();
+        guarded("timerEvent()", [this] { tick(); });
+    } else if (event->timerId() == m_contentUpdateTimerId) {
+        stopContentUpdateTimer();
+        if (m_selected) {
+            queueSetting(std::make_shared<SetContentUpdateRequest>());
+        }
     }
-    stopTimer();
-    guarded("timerEvent()", [this] { tick(); });
 }
 
 void DeviceInfoManager::tick() {
     m_discoverer->removeExpiredItems();
-    if (!tellLoss() && !sendPendingSetting()) {
+    // A page that hears of a loss may have asked for something else already.
+    if (!tellLoss() && !sendPendingSetting() && m_time.now() >= m_stateDue) {
+        m_stateDue = m_time.now() + tickInterval;
         m_state->onTimer();
     }
 }
@@ -330,9 +350,9 @@ void DeviceInfoManager::complete(bool success) {
     // A reading that began before the setting was sent ends while it still waits.
     const bool hasSettled = m_settings->isEmpty() && !m_settings->isInFlight() && !m_cancelling;
     if (m_settings->isInFlight()) {
-        m_settings->finish(success);
-        startTimer(settingsBeat);
+        m_settings->finish(success || !m_communicator->isLastUpdateInDoubt());
     } else {
+        m_stateDue = m_time.now() + tickInterval;
         m_state->onRequestComplete(success);
     }
     if (m_selected && m_selected->changedFields().any()) {
@@ -371,13 +391,13 @@ void DeviceInfoManager::guarded(const char* what, const std::function<void()>& s
     } catch (const std::exception& error) {
         programLog()->critical("DeviceInfoManager: exception in {}", what);
         programLog()->critical("{}", error.what());
-        stopTimer();
+        startTimer(tickInterval);
     } catch (...) {
         programLog()->critical("DeviceInfoManager: exception in {}", what);
-        stopTimer();
+        startTimer(tickInterval);
     }
     if (m_timerId == 0) {
-        startTimer(tickInterval);
+        runTimer();
     }
 }
 

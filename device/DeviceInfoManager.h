@@ -1,5 +1,7 @@
 #pragma once
 
+#include "messaging/TimeSource.h"
+
 #include <QHash>
 #include <QObject>
 #include <QString>
@@ -33,10 +35,8 @@ class DeviceInfoManager : public QObject {
 
 public:
     class State;
-    using Clock = std::chrono::steady_clock;
 
-    /// `now` is the clock that the refresh intervals are measured by.
-    explicit DeviceInfoManager(std::function<Clock::time_point()> now = &Clock::now);
+    explicit DeviceInfoManager(TimeSource& time = TimeSource::system());
     ~DeviceInfoManager() override;
     DeviceInfoManager(const DeviceInfoManager&) = delete;
     DeviceInfoManager& operator=(const DeviceInfoManager&) = delete;
@@ -89,6 +89,9 @@ public:
     void setRecognitionTolerance(int tolerance); ///< s
     void setSeatSetting(std::shared_ptr<SeatInfo> seat);
 
+    /// Whether a setting of that seat of the selected unit is on its way.
+    bool isSeatSettingPending(int seatIndex) const;
+
     /// Asks for automatic volume control on the selected unit without leaving what the page polls.
     void requestAutomaticVolumeControl();
 
@@ -116,8 +119,10 @@ private:
     bool tellLoss();
     void tellSelected();
     void sendNow(std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout);
-    void startTimer(int milliseconds);
+    void startTimer(std::chrono::milliseconds interval);
+    void runTimer();
     void stopTimer();
+    void stopContentUpdateTimer();
     void tick();
     void complete(bool success);
     void countForSelected(bool success);
@@ -140,8 +145,10 @@ private:
     std::shared_ptr<DiscoveryQueue> m_discovered;
     std::shared_ptr<DeviceInfo> m_selected;
     std::shared_ptr<DeviceInfo> m_requested; ///< the unit of the request under way, or of the last one
-    std::function<Clock::time_point()> m_now;
-    int m_timerId = 0;
+    TimeSource& m_time;
+    int m_timerId = 0;                  ///< of the state machine
+    TimeSource::TimePoint m_stateDue{}; ///< when the current state wants its next tick
+    int m_contentUpdateTimerId = 0;     ///< of the content update that a page asked for
     bool m_isSettling = false;
     bool m_wasOnline = false;  ///< the selected unit, when the views were last told of it
     bool m_cancelling = false; ///< the completion under way is of our own making

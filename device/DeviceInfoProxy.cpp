@@ -116,6 +116,7 @@ void DeviceInfoProxy::onDeviceInfoUpdated() {
     DeviceField::Set changed;
     if (unit != m_unit) {
         m_unit = unit;
+        m_captureDeviceIndex = -1;
         changed.set();
         emit deviceChanged();
     } else if (m_unit) {
@@ -364,6 +365,8 @@ void DeviceInfoProxy::updateCaptureDevices() {
     m_isCaptureDeviceOut = inUse != devices.end() && (*inUse)->isOutput();
     if (inUse != devices.end()) {
         m_captureDeviceIndex = static_cast<int>(inUse - devices.begin());
+    } else if (m_captureDeviceIndex >= static_cast<int>(devices.size())) {
+        m_captureDeviceIndex = -1;
     }
     if (m_isCaptureDeviceOut && !automaticVolumeControl()) {
         m_manager->requestAutomaticVolumeControl();

@@ -212,7 +212,7 @@ private:
 
     std::shared_ptr<DeviceInfoManager> m_manager;
     std::shared_ptr<DeviceInfo> m_unit;
-    int m_captureDeviceIndex = 0;
+    int m_captureDeviceIndex = -1; ///< none in use
     bool m_isCaptureDeviceOut = false;
     int m_experienceModeIndex = -1;
     QList<WiFiPointInfo*> m_wiFiPoints; ///< children of this object

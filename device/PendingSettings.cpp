@@ -1,9 +1,22 @@
 #include "device/PendingSettings.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace orvex {
+
+namespace {
+
+/// None for a setting that concerns the whole unit.
+std::optional<int> seatOf(const DeviceUpdateRequest& request) {
+    if (request.requestType != DeviceUpdateRequest::SetSeatSetting) {
+        return std::nullopt;
+    }
+    return static_cast<const SetSeatSettingRequest&>(request).seat->index;
+}
+
+} // namespace
 
 void PendingSettings::add(std::shared_ptr<DeviceInfo> unit, std::shared_ptr<DeviceUpdateRequest> request) {
     Setting setting{std::move(unit), std::move(request)};
@@ -22,9 +35,9 @@ const PendingSettings::Setting& PendingSettings::take() {
     return m_inFlight;
 }
 
-void PendingSettings::finish(bool sent) {
+void PendingSettings::finish(bool heard) {
     Setting ended = std::exchange(m_inFlight, {});
-    if (!ended.request || sent || ended.isSecondTry) {
+    if (!ended.request || heard || ended.isSecondTry) {
         return;
     }
     const bool isOutdated = std::any_of(m_waiting.begin(), m_waiting.end(),
@@ -35,17 +48,18 @@ void PendingSettings::finish(bool sent) {
     }
 }
 
+bool PendingSettings::holdsSeat(const std::shared_ptr<DeviceInfo>& unit, int index) const {
+    const auto concerns = [&](const Setting& setting) {
+        return setting.request && setting.unit == unit && seatOf(*setting.request) == index;
+    };
+    return concerns(m_inFlight) || std::any_of(m_waiting.begin(), m_waiting.end(), concerns);
+}
+
 bool PendingSettings::supersedes(const Setting& newer, const Setting& older) {
     if (newer.unit != older.unit || newer.request->requestType != older.request->requestType) {
         return false;
     }
-    if (newer.request->requestType != DeviceUpdateRequest::SetSeatSetting) {
-        return true;
-    }
-    const auto seatOf = [](const Setting& setting) {
-        return static_cast<const SetSeatSettingRequest&>(*setting.request).seat->index;
-    };
-    return seatOf(newer) == seatOf(older);
+    return seatOf(*newer.request) == seatOf(*older.request);
 }
 
 } // namespace orvex

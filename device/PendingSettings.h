@@ -24,12 +24,15 @@ public:
     bool isEmpty() const { return m_waiting.empty(); }
     bool isInFlight() const { return m_inFlight.request != nullptr; }
 
+    /// Whether a setting of that seat waits or is in flight: what the unit told of it before may be outdated.
+    bool holdsSeat(const std::shared_ptr<DeviceInfo>& unit, int index) const;
+
     /// The next one to send, which is in flight from now on. Not while empty or in flight.
     const Setting& take();
 
-    /// The request in flight has ended. One that failed never left, so it waits again, unless it has failed
-    /// twice or a newer one of its kind waits.
-    void finish(bool sent);
+    /// The request in flight has ended. A setting that the unit may not have heard waits again, unless it has
+    /// failed twice or a newer one of its kind waits.
+    void finish(bool heard);
 
 private:
     static bool supersedes(const Setting& newer, const Setting& older);

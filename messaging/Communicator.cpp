@@ -32,7 +32,8 @@ std::uint32_t effectiveTimeout(std::uint32_t timeout) {
 
 } // namespace
 
-Communicator::Communicator() = default;
+Communicator::Communicator(TimeSource& time)
+    : m_time(time) {}
 
 Communicator::~Communicator() {
     releaseMessenger();
@@ -60,6 +61,11 @@ bool Communicator::isIdle() const {
     return !m_active;
 }
 
+bool Communicator::isLastUpdateInDoubt() const {
+    const std::unique_lock lock(m_mutex);
+    return m_updateInDoubt;
+}
+
 void Communicator::startRequest(std::shared_ptr<DeviceInfo> unit, std::uint32_t expectedFields,
                                 std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout) {
     if (!unit || !m_messenger) {
@@ -70,13 +76,15 @@ void Communicator::startRequest(std::shared_ptr<DeviceInfo> unit, std::uint32_t 
     const std::uint32_t bound = effectiveTimeout(timeout);
     unit->clearChangedFields();
     unit->clearAnsweredFields();
-    const int timerId = startTimer(static_cast<int>(bound), Qt::PreciseTimer);
+    const int timerId = m_time.startTimer(*this, static_cast<int>(bound), Qt::PreciseTimer);
     bool connected = false;
     {
         const std::unique_lock lock(m_mutex);
         m_unit = unit;
         m_expectedFields = expectedFields & DeviceField::all;
         m_request = std::move(request);
+        m_hasUpdate = m_request != nullptr;
+        m_updateInDoubt = m_hasUpdate;
         m_timerId = timerId;
         m_end.reset();
         m_active = true;
@@ -180,6 +188,7 @@ void Communicator::runConnectedProcedure() {
     }
     const auto unit = m_unit;
     const auto request = std::exchange(m_request, nullptr);
+    m_updateInDoubt = false;
     const std::uint32_t expected = m_expectedFields;
     const Serial serial = m_serial;
     lock.unlock();
@@ -210,6 +219,10 @@ void Communicator::handleConnectionLost() {
         const std::unique_lock lock(m_mutex);
         if (!m_connected) {
             return; // a connection that no request of ours was waiting for
+        }
+        // What was sent when the connection broke may have been lost with it.
+        if (m_hasUpdate && m_active && !m_end && !m_dropping) {
+            m_updateInDoubt = true;
         }
         m_connected = false;
         m_dropping = false;
@@ -293,7 +306,7 @@ void Communicator::onRequestCompleteInternal(bool) {
         timerId = std::exchange(m_timerId, 0);
     }
     if (timerId != 0) {
-        killTimer(timerId);
+        m_time.stopTimer(*this, timerId);
     }
     emit requestComplete(success);
 }
@@ -342,7 +355,7 @@ void Communicator::disconnect() {
 void Communicator::timerEvent(QTimerEvent* event) {
     std::unique_lock lock(m_mutex);
     if (event->timerId() != m_timerId) {
-        killTimer(event->timerId());
+        m_time.stopTimer(*this, event->timerId());
     }
     if (!m_active || m_end) {
         return; // answered in time, the end is only on its way

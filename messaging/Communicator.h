@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/DeviceUpdateRequest.h"
+#include "messaging/TimeSource.h"
 #include "messaging/records/AdaptiveGamingSelectedProfile.h"
 #include "messaging/records/ContentUpdateState.h"
 #include "messaging/records/DetailedStatusInfo.h"
@@ -45,7 +46,7 @@ class Communicator : public QObject,
 public:
     struct Parts; ///< handlers, senders and prebuilt messages
 
-    Communicator();
+    explicit Communicator(TimeSource& time = TimeSource::system());
     ~Communicator() override;
     Communicator(const Communicator&) = delete;
     Communicator& operator=(const Communicator&) = delete;
@@ -68,6 +69,10 @@ public:
     /// first; one that still waits for its connection is replaced without a result.
     void startRequest(std::shared_ptr<DeviceInfo> unit, std::uint32_t expectedFields,
                       std::shared_ptr<DeviceUpdateRequest> request = {}, std::uint32_t timeout = 0);
+
+    /// Whether the set action of the request that ended last may be unknown to its unit: it was never sent,
+    /// or the connection was lost under it.
+    bool isLastUpdateInDoubt() const;
 
     /// Ends the active request as failed, before this returns.
     void cancelRequest();
@@ -119,6 +124,7 @@ private:
     template <class Store>
     void storeAnswer(Store&& store);
 
+    TimeSource& m_time;
     std::shared_ptr<Velto::Messaging::Messenger> m_messenger; ///< GUI thread only
     std::unique_ptr<Parts> m_parts;
 
@@ -126,7 +132,9 @@ private:
     std::shared_ptr<DeviceInfo> m_unit;
     QString m_connectedUid; ///< the unit that was connected last
     std::uint32_t m_expectedFields = 0;
-    std::shared_ptr<DeviceUpdateRequest> m_request;
+    std::shared_ptr<DeviceUpdateRequest> m_request; ///< until its set action is performed
+    bool m_hasUpdate = false;                       ///< the latest request came with a set action
+    bool m_updateInDoubt = false;
     int m_timerId = 0;
     Serial m_serial = 0;
     std::optional<bool> m_end; ///< the active request's result, once it has one

@@ -106,7 +106,8 @@ QHash<int, QByteArray> SeatListModel::roleNames() const {
 }
 
 Qt::ItemFlags SeatListModel::flags(const QModelIndex& index) const {
-    return QAbstractListModel::flags(index) | Qt::ItemIsEditable;
+    const Qt::ItemFlags base = QAbstractListModel::flags(index);
+    return index.isValid() ? base | Qt::ItemIsEditable : base; // the root is no item
 }
 
 bool SeatListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
@@ -151,7 +152,27 @@ void SeatListModel::showOther(SeatStatusList seats) {
     update(std::move(seats));
 }
 
+/// What the user has set and the unit has not heard yet stays: an answer that was on its way knows nothing of
+/// it, and the next edit must not start from it.
+void SeatListModel::keepPendingEdits(SeatStatusList& seats) const {
+    const std::size_t common = std::min(seats.size(), m_seats.size());
+    for (std::size_t row = 0; row < common; ++row) {
+        const SeatInfo& edited = *m_seats[row];
+        if (edited.index != seats[row]->index || !m_manager->isSeatSettingPending(edited.index)) {
+            continue;
+        }
+        auto kept = std::make_shared<SeatInfo>(*seats[row]);
+        kept->muted = edited.muted;
+        kept->chained = edited.chained;
+        kept->motion = edited.motion;
+        kept->vibration = edited.vibration;
+        m_unit->replaceSeat(seats[row], kept);
+        seats[row] = std::move(kept);
+    }
+}
+
 void SeatListModel::update(SeatStatusList seats) {
+    keepPendingEdits(seats);
     const int count = static_cast<int>(seats.size());
     if (count < m_rowCount) {
         beginRemoveRows({}, count, m_rowCount - 1);

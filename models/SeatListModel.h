@@ -44,6 +44,7 @@ public slots:
 
 private:
     void showOther(SeatStatusList seats);
+    void keepPendingEdits(SeatStatusList& seats) const;
     void update(SeatStatusList seats);
 
     std::shared_ptr<DeviceInfoManager> m_manager;

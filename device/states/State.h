@@ -33,7 +33,6 @@ public:
 
 protected:
     using Relocation = DeviceInfoManager::Relocation;
-    using Clock = DeviceInfoManager::Clock;
 
     // What the states use of the manager.
     bool isCommunicatorIdle() const;
@@ -43,11 +42,11 @@ protected:
     void cancelPoll() { m_manager.cancelPoll(); }
     /// Whether the completion under way is of the manager's own making: no failure of the unit.
     bool isCancelling() const { return m_manager.m_cancelling; }
-    void startTimer(int milliseconds) { m_manager.startTimer(milliseconds); }
+    void startTimer(int milliseconds) { m_manager.startTimer(std::chrono::milliseconds(milliseconds)); }
     bool isTimerRunning() const { return m_manager.m_timerId != 0; }
     void switchTo(State& state) { m_manager.switchTo(state); }
     bool areSettingsPending() const;
-    Clock::time_point now() const { return m_manager.m_now(); }
+    TimeSource::TimePoint now() const { return m_manager.m_time.now(); }
 
     const std::vector<std::shared_ptr<DeviceInfo>>& devices() const { return m_manager.m_devices; }
     int positionOf(const std::shared_ptr<DeviceInfo>& unit) const { return m_manager.positionOf(unit); }

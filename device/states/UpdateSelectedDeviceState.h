@@ -21,8 +21,8 @@ private:
 
     Refresh dueRefresh() const;
 
-    std::optional<Clock::time_point> m_lastFull;
-    std::optional<Clock::time_point> m_last; ///< of either kind
+    std::optional<TimeSource::TimePoint> m_lastFull;
+    std::optional<TimeSource::TimePoint> m_last; ///< of either kind
     Refresh m_inFlight = Refresh::None;
 };
 

@@ -2,7 +2,6 @@
 #include "simulator/messages/Messages.h"
 
 #include <array>
-#include <cmath>
 
 namespace Simulator {
 

@@ -156,6 +156,37 @@ TEST(MediaListHandlerTest, ReadsTheListOfTheFirstMember) {
     EXPECT_TRUE(none->media.isEmpty());
 }
 
+TEST(MediaListHandlerTest, TakesTitlesFromTheirOwnPlaceAndNothingFromABrokenBody) {
+    GetMediaListNotificationHandler handler;
+    const auto titles = [&](const std::string& body) {
+        const auto list = record(handler, &GetMediaListNotificationHandler::mediaListChanged,
+                                 "GetMediaListNotification", body);
+        QStringList read;
+        for (const MediaEntry& entry : list ? list->media : QVector<MediaEntry>()) {
+            read << entry.title + '/' + entry.cut;
+        }
+        return list ? read.join(' ') : QStringLiteral("none");
+    };
+    EXPECT_EQ(
+        titles(R"({"mediaList":{"x":[{"title":"no"}],"media":[{"cut":"c","title":"a","title":"b","title":7,
+        "more":{"title":"no","media":[{"title":"no"}]},"list":["no",{"title":"no"}]},[{"title":"no"}],"no",
+        {"title":"\u00e9\ud83d\ude00","cut":"c"}],"media":[{"title":"second"}]},"media":[{"title":"no"}]})"),
+        QStringLiteral("b/c \u00e9\U0001F600/c second/"));
+    const std::string good = R"({"mediaList":{"media":[{"title":"a"}]}})";
+    EXPECT_EQ(titles(good), "a/");
+    for (const std::string& broken : {good + "x", good + good, good.substr(0, good.size() - 1),
+                                      "[" + good + "]", good + std::string(1, '\0'), std::string("null"),
+                                      std::string(R"({"mediaList":{"media":[{"title":"a)"
+                                                  "\xff"
+                                                  R"("}]}})"),
+                                      R"({"mediaList":{"media":[)" + std::string(10000, '[')}) {
+        EXPECT_EQ(titles(broken), "none") << broken.substr(0, 60);
+    }
+    const std::string deep = std::string(61, '[') + std::string(61, ']');
+    EXPECT_EQ(titles(R"({"mediaList":{"media":[)" + deep + "]}}"), "") << "64 levels";
+    EXPECT_EQ(titles(R"({"mediaList":{"media":[[)" + deep + "]]}}"), "none");
+}
+
 /// A handler, and its signals' count for a message of another type.
 template <class Handler, class Signal>
 int signalsForAnotherType(Signal signal) {

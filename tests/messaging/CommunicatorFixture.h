@@ -52,6 +52,13 @@ bool eventuallyElsewhere(Condition condition) {
 /// A unit at a loopback address of its own: the messenger holds every address to the first key it saw there.
 class RunningUnit : public SimulatedUnit {
 public:
+    /// A loopback address that no other unit of this program has.
+    static std::string freeAddress() {
+        static std::atomic<int> count{0};
+        const int number = ++count;
+        return "127.7." + std::to_string(number / 200) + "." + std::to_string(number % 200 + 1);
+    }
+
     explicit RunningUnit(Simulator::SimulatorHost& host, const std::string& name = "Sofa",
                          UnitOptions options = {})
         : SimulatedUnit(host, at(name, std::move(options))) {
@@ -63,7 +70,7 @@ public:
         const auto announcement = this->announcement();
         Messaging::Discovered::Values values;
         values.name = announcement.name;
-        values.address = options().address;
+        values.address = address();
         values.serial = announcement.serial;
         values.uid = announcement.uid;
         values.productVendor = announcement.productVendor;
@@ -91,7 +98,9 @@ private:
         const int number = ++count;
         options.name = name;
         options.number = static_cast<std::size_t>(number);
-        options.address = "127.7." + std::to_string(number / 200) + "." + std::to_string(number % 200 + 1);
+        if (options.address == UnitOptions().address) {
+            options.address = freeAddress();
+        }
         return options;
     }
 };
@@ -105,7 +114,8 @@ public:
     }
 
 protected:
-    CommunicatorFixture() {
+    explicit CommunicatorFixture(TimeSource& time = TimeSource::system())
+        : communicator(std::make_shared<Communicator>(time)) {
         VeltoExportQAutoDiscoveryComponent();
         VeltoExportZCommComponent();
         components.Init(true);
@@ -144,7 +154,7 @@ protected:
     Simulator::SimulatorHost host{{false, 0}};
     Velto::ComponentConfigurator components;
     std::shared_ptr<Velto::Messaging::Messenger> messenger = makeMessenger();
-    std::shared_ptr<Communicator> communicator = std::make_shared<Communicator>();
+    std::shared_ptr<Communicator> communicator;
     QSignalSpy ended{communicator.get(), &Communicator::requestComplete};
 };
 

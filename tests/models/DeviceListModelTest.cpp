@@ -1,64 +1,12 @@
 #include "models/DeviceListModel.h"
 
 #include "tests/device/ManagerFixture.h"
+#include "tests/models/Shadow.h"
 
 #include <QAbstractItemModelTester>
 
 namespace orvex::Test {
 namespace {
-
-/// What a view knows of a model: built and kept up to date by the signals alone.
-class Shadow : public QObject {
-public:
-    explicit Shadow(const QAbstractItemModel& model)
-        : m_model(model) {
-        connect(&model, &QAbstractItemModel::rowsInserted, this,
-                [this](const QModelIndex&, int first, int last) {
-                    for (int row = first; row <= last; ++row) {
-                        m_rows.insert(row, read(row));
-                    }
-                });
-        connect(&model, &QAbstractItemModel::rowsRemoved, this,
-                [this](const QModelIndex&, int first, int last) {
-                    m_rows.erase(m_rows.begin() + first, m_rows.begin() + last + 1);
-                });
-        connect(&model, &QAbstractItemModel::dataChanged, this,
-                [this](const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) {
-                    EXPECT_TRUE(roles.isEmpty()) << "every role is read again";
-                    for (int row = first.row(); row <= last.row(); ++row) {
-                        m_rows[row] = read(row);
-                    }
-                });
-        connect(&model, &QAbstractItemModel::modelReset, this, [this] {
-            m_rows.clear();
-            for (int row = 0; row < m_model.rowCount(); ++row) {
-                m_rows.append(read(row));
-            }
-        });
-    }
-
-    bool isTrue() const {
-        bool same = m_rows.size() == m_model.rowCount();
-        for (int row = 0; same && row < m_rows.size(); ++row) {
-            same = m_rows[row] == read(row);
-        }
-        return same;
-    }
-    QVariant value(int row, int role) const { return m_rows.value(row).value(role); }
-
-private:
-    QMap<int, QVariant> read(int row) const {
-        QMap<int, QVariant> roles;
-        const auto names = m_model.roleNames();
-        for (auto role = names.begin(); role != names.end(); ++role) {
-            roles.insert(role.key(), m_model.data(m_model.index(row, 0), role.key()));
-        }
-        return roles;
-    }
-
-    const QAbstractItemModel& m_model;
-    QList<QMap<int, QVariant>> m_rows;
-};
 
 class DeviceListModelTest : public ManagerFixture {
 protected:
