@@ -23,9 +23,10 @@ PageMain040DeviceInfoForm {
     readonly property bool isWide: width >= Style.twoColumnsFrom && showsSettings
     readonly property int mode: currDevice.experienceModeSelected
     readonly property bool isLoading: currDevice.online && !currDevice.detailsValid
-    // A unit that answers some questions and never the others is older than this program.
-    readonly property bool needsUpdate: isLoading && patience.isOver && currDevice.softwareVersion.length > 0
-    readonly property bool showsSettings: currDevice.detailsValid || (needsUpdate && currDevice.experienceModeList.length > 0)
+    // A unit that answers some questions and never the others is older than this program. It counts as offline for a
+    // moment whenever a reading of everything runs out of time.
+    property bool needsUpdate: false
+    readonly property bool showsSettings: currDevice.detailsValid || (isLoading && needsUpdate && currDevice.experienceModeList.length > 0)
     readonly property bool takesSettings: currDevice.online && showsSettings && !currDevice.experienceModeIsInTransition
 
     // The programs on this PC; they come and go while this one runs.
@@ -61,24 +62,41 @@ PageMain040DeviceInfoForm {
 
         function onDeviceChanged() {
             root.scrollArea.contentY = 0;
+            patience.steps = 0;
+            root.needsUpdate = false;
+        }
+
+        function onDetailsChanged() {
+            root.needsUpdate = root.needsUpdate && !currDevice.detailsValid;
         }
     }
 
     Timer {
         id: patience
 
-        // One reading of everything may take 15 s; within two of them the unit is given up as offline.
-        readonly property bool isOver: steps >= 2
-        readonly property bool isTried: steps >= 1
         property int steps: 0
 
-        interval: 9000
+        // Twice within the 15 s that one reading of everything may take.
+        interval: 6000
         repeat: true
-        running: root.isLoading && root.visible && steps < 2
-        onTriggered: steps += 1
+        running: root.isLoading && root.visible && !root.needsUpdate
+        onTriggered: {
+            steps += 1;
+            root.needsUpdate = steps >= 2 && currDevice.softwareVersion.length > 0;
+        }
     }
 
-    onIsLoadingChanged: patience.steps = 0
+    Timer {
+        interval: 10000
+        running: root.needsUpdate && !currDevice.online
+        onTriggered: root.needsUpdate = false
+    }
+
+    onIsLoadingChanged: {
+        if (currDevice.detailsValid) {
+            patience.steps = 0;
+        }
+    }
 
     pageTitle.title: currDevice.name
     pageTitle.details: currDevice.productName
@@ -97,21 +115,21 @@ PageMain040DeviceInfoForm {
 
     noticeCard.visible: !currDevice.online || isLoading
     notice.isWaiting: isLoading && !needsUpdate
-    notice.symbol: currDevice.online ? Style.symbolAttention : Style.statusError.symbol
+    notice.symbol: needsUpdate ? Style.symbolAttention : Style.statusError.symbol
     notice.heading: {
-        if (!currDevice.online) {
-            return qsTr("This device does not answer");
+        if (needsUpdate) {
+            return qsTr("System Update Required");
         }
-        return needsUpdate ? qsTr("System Update Required") : "";
+        return currDevice.online ? "" : qsTr("This device does not answer");
     }
     notice.text: {
-        if (!currDevice.online) {
-            return qsTr("Check that it is switched on and connected to your network. The page fills again as soon as the device answers.");
-        }
         if (needsUpdate) {
             return qsTr("%1 requires a more recent software version for compatibility. The update should be done automatically but if it doesn't, please contact support.").arg(currDevice.name);
         }
-        return patience.isTried ? qsTr("The device answers slowly. Check its network connection if this takes longer.") : qsTr("Reading the settings of the device...");
+        if (!currDevice.online) {
+            return qsTr("Check that it is switched on and connected to your network. The page fills again as soon as the device answers.");
+        }
+        return patience.steps > 0 ? qsTr("The device answers slowly. Check its network connection if this takes longer.") : qsTr("Reading the settings of the device...");
     }
 
     networkCard.online: currDevice.online

@@ -163,6 +163,18 @@ TEST_F(DevicePageTest, SaysSoWhenTheUnitIsGoneAndFillsAgainWhenItIsBack) {
     EXPECT_TRUE(waitFor([this] { return item("modeChoice") && !item("noticeHeading"); }));
 }
 
+TEST_F(DevicePageTest, AUnitThatLeavesQuestionsUnansweredIsShownWithWhatItTellsAndNeedsAnUpdate) {
+    Simulator::Faults faults;
+    faults.answer = Simulator::AnswerFault::Drop;
+    faults.types = {"GetSoftwareHealthStatus"};
+    unit->setFaults(faults);
+    ASSERT_TRUE(openPage());
+    EXPECT_EQ(text(item("noticeHeading")), "System Update Required");
+    EXPECT_TRUE(canBeUsed(part("modeChoice", "comboBox")));
+    unit->setFaults({});
+    EXPECT_TRUE(waitFor([this] { return item("modeChoice") && !item("noticeHeading"); })) << "once it is new";
+}
+
 TEST_F(DevicePageTest, FindsATitleAmongThousandsAndSortsThem) {
     unit->changeState([](Simulator::UnitState& state) { state.media.count = 5000; });
     ASSERT_TRUE(openPage());
