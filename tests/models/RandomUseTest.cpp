@@ -138,7 +138,7 @@ TEST_P(RandomUseTest, KeepsEveryPromise) {
             disturb();
         }
         if (below(3) == 0) {
-            QTest::qWait(1);
+            QTest::qWait(below(5));
         }
         pass(below(5) == 0 ? below(6000) : below(300));
         QCoreApplication::processEvents();
