@@ -156,6 +156,7 @@ void DeviceInfoManager::connectDeviceToWiFi(QString name, QString key) {
 
 void DeviceInfoManager::resetNetworkSettings() {
     if (m_selected) {
+        m_leaving = m_selected;
         sendNow(std::make_shared<ActivateHotspotRequest>(), 0);
         m_selected->setOnline(false);
     }
@@ -174,7 +175,8 @@ void DeviceInfoManager::setDeviceName(QString name) {
     tellSelected();
     m_states->updateSelectedDeviceFields.configure(
         DeviceField::mask({DeviceField::Name, DeviceField::SoftwareVersion}), 5000, 5000);
-    queueAndShow(std::make_shared<SetNameRequest>(std::move(name)), m_states->updateSelectedDeviceFields);
+    queueAndShow(std::make_shared<SetNameRequest>(std::move(name)), m_states->updateSelectedDeviceFields,
+                 DeviceField::mask({DeviceField::Name}));
 }
 
 void DeviceInfoManager::setAdaptiveAudioParameters(int preMixType) {
@@ -227,14 +229,15 @@ bool DeviceInfoManager::isSeatSettingPending(int seatIndex) const {
     return m_settings->holdsSeat(m_selected, seatIndex);
 }
 
-void DeviceInfoManager::queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState) {
+void DeviceInfoManager::queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState,
+                                     std::uint32_t confirmingFields) {
     if (!m_selected) {
         return;
     }
     queueSetting(std::move(request));
     m_states->setDeviceProperty.returnTo(returnState);
     switchTo(m_states->setDeviceProperty);
-    setSettling(true);
+    setSettling(m_settlingFields | confirmingFields);
 }
 
 /// Settings outlive the page they were made on: they are sent to their unit whatever state is current by
@@ -249,6 +252,12 @@ bool DeviceInfoManager::sendPendingSetting() {
         return false;
     }
     const PendingSettings::Setting setting = m_settings->take();
+    const bool isOfAnotherPage =
+        setting.request->requestType == DeviceUpdateRequest::SetContentUpdate && setting.unit != m_selected;
+    if (isOfAnotherPage) {
+        m_settings->finish(true);
+        return false;
+    }
     startRequest(setting.unit, setting.request->refreshFields, setting.request, 0);
     return true;
 }
@@ -262,6 +271,7 @@ void DeviceInfoManager::sendNow(std::shared_ptr<DeviceUpdateRequest> request, st
 void DeviceInfoManager::startRequest(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields,
                                      std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout) {
     m_requested = unit;
+    m_requestedFields = fields;
     m_communicator->startRequest(unit, fields, std::move(request), timeout);
 }
 
@@ -326,6 +336,7 @@ bool DeviceInfoManager::tellLoss() {
     const bool isLost = m_wasOnline && m_selected && !m_selected->isOnline() && m_communicator->isIdle();
     if (isLost) {
         tellSelected();
+        setSettling(0);
     }
     m_wasOnline = m_selected && m_selected->isOnline();
     return isLost;
@@ -347,8 +358,6 @@ void DeviceInfoManager::onRequestComplete(bool success) {
 
 void DeviceInfoManager::complete(bool success) {
     countForSelected(success);
-    // A reading that began before the setting was sent ends while it still waits.
-    const bool hasSettled = m_settings->isEmpty() && !m_settings->isInFlight() && !m_cancelling;
     if (m_settings->isInFlight()) {
         m_settings->finish(success || !m_communicator->isLastUpdateInDoubt());
     } else {
@@ -358,19 +367,35 @@ void DeviceInfoManager::complete(bool success) {
     if (m_selected && m_selected->changedFields().any()) {
         tellSelected();
     }
-    if (hasSettled) {
-        setSettling(false);
+    updateSettling(success);
+}
+
+/// What was read after the last setting was sent is no longer in question. A reading that began before ends
+/// while the setting still waits.
+void DeviceInfoManager::updateSettling(bool success) {
+    if (!m_selected || !m_selected->isOnline()) {
+        setSettling(0);
+    } else if (success && !m_cancelling && m_requested == m_selected && m_settings->isEmpty() &&
+               !m_settings->isInFlight()) {
+        setSettling(m_settlingFields & ~m_requestedFields);
     }
 }
 
-void DeviceInfoManager::setSettling(bool settling) {
-    if (std::exchange(m_isSettling, settling) != settling) {
+void DeviceInfoManager::setSettling(std::uint32_t fields) {
+    const bool wasSettling = isSettling();
+    m_settlingFields = fields;
+    if (isSettling() != wasSettling) {
         emit settlingChanged();
     }
 }
 
 void DeviceInfoManager::countForSelected(bool success) {
     if (!m_selected || m_selected != m_requested || m_cancelling) {
+        return;
+    }
+    if (m_selected == m_leaving) {
+        m_leaving.reset();
+        m_selected->setOnline(false);
         return;
     }
     if (success) {
@@ -417,16 +442,23 @@ void DeviceInfoManager::select(std::shared_ptr<DeviceInfo> unit) {
     m_selected = std::move(unit);
     m_wasOnline = m_selected && m_selected->isOnline();
     emit selectedDeviceUpdated();
-    setSettling(false);
+    setSettling(0);
 }
 
 void DeviceInfoManager::drainDiscovery(Relocation relocation) {
     for (const auto& discovered : m_discovered->take()) {
+        if (!m_discoverer->holds(discovered->getUId())) {
+            continue; // announced long ago, and gone since
+        }
         const auto known = m_devicesByUid.value(QString::fromStdString(discovered->getUId()));
+        const auto announced = std::make_shared<DeviceInfo>(*discovered);
         if (!known) {
-            insert(std::make_shared<DeviceInfo>(*discovered));
+            insert(announced);
         } else if (relocation == Relocation::Followed && known == m_selected) {
-            known->moveTo(DeviceInfo(*discovered));
+            known->moveTo(*announced);
+        } else if (relocation == Relocation::AskedAgain && !known->isSameUnit(*announced)) {
+            known->moveTo(*announced);
+            known->setFieldValid(DeviceField::Network, false);
         }
     }
 }
@@ -454,6 +486,7 @@ void DeviceInfoManager::remove(const std::shared_ptr<DeviceInfo>& unit) {
         return;
     }
     programLog()->info("DeviceInfoManager: {} no longer listed", unit->name().toStdString());
+    m_settings->forget(unit);
     {
         const std::unique_lock lock(m_lock);
         m_devicesByUid.remove(unit->uid());

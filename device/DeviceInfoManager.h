@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/DeviceField.h"
 #include "messaging/TimeSource.h"
 
 #include <QHash>
@@ -50,7 +51,7 @@ public:
     std::shared_ptr<DeviceInfo> selectedDevice() const { return m_selected; }
     /// Whether the selected unit has not been read again since the user's last setting: what is known of it
     /// may be older than that setting.
-    bool isSettling() const { return m_isSettling; }
+    bool isSettling() const { return m_settlingFields != 0; }
 
     // Called by the pages: what is shown decides what is polled. Without a selected unit, those that concern
     // one do nothing but change the state.
@@ -114,7 +115,8 @@ private:
     void switchTo(State& state);
     void showFields(std::uint32_t fields, int firstInterval, int repeatInterval);
     void queueSetting(std::shared_ptr<DeviceUpdateRequest> request);
-    void queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState);
+    void queueAndShow(std::shared_ptr<DeviceUpdateRequest> request, State& returnState,
+                      std::uint32_t confirmingFields = DeviceField::details);
     bool sendPendingSetting();
     bool tellLoss();
     void tellSelected();
@@ -126,7 +128,8 @@ private:
     void tick();
     void complete(bool success);
     void countForSelected(bool success);
-    void setSettling(bool settling);
+    void updateSettling(bool success);
+    void setSettling(std::uint32_t fields);
     void guarded(const char* what, const std::function<void()>& step);
 
     void startRequest(const std::shared_ptr<DeviceInfo>& unit, std::uint32_t fields,
@@ -134,7 +137,9 @@ private:
     void cancelRequest();
     void cancelPoll();
     void select(std::shared_ptr<DeviceInfo> unit);
-    enum class Relocation { Ignored, Followed };
+    /// What becomes of a listed unit that is announced elsewhere: nothing; the selected one is where it was
+    /// announced; or every one is, and has to tell anew how it is connected.
+    enum class Relocation { Ignored, Followed, AskedAgain };
     void drainDiscovery(Relocation relocation);
     void insert(std::shared_ptr<DeviceInfo> unit);
     void remove(const std::shared_ptr<DeviceInfo>& unit);
@@ -145,13 +150,15 @@ private:
     std::shared_ptr<DiscoveryQueue> m_discovered;
     std::shared_ptr<DeviceInfo> m_selected;
     std::shared_ptr<DeviceInfo> m_requested; ///< the unit of the request under way, or of the last one
+    std::uint32_t m_requestedFields = 0;
+    std::shared_ptr<DeviceInfo> m_leaving; ///< was told to leave its network
     TimeSource& m_time;
     int m_timerId = 0;                  ///< of the state machine
     TimeSource::TimePoint m_stateDue{}; ///< when the current state wants its next tick
     int m_contentUpdateTimerId = 0;     ///< of the content update that a page asked for
-    bool m_isSettling = false;
-    bool m_wasOnline = false;  ///< the selected unit, when the views were last told of it
-    bool m_cancelling = false; ///< the completion under way is of our own making
+    std::uint32_t m_settlingFields = 0; ///< not read yet since they were set
+    bool m_wasOnline = false;           ///< the selected unit, when the views were last told of it
+    bool m_cancelling = false;          ///< the completion under way is of our own making
     std::unique_ptr<PendingSettings> m_settings;
     std::unique_ptr<States> m_states;
     State* m_state;

@@ -412,7 +412,8 @@ void DeviceInfoProxy::setCurrCaptureDeviceIndex(int index) {
 }
 
 void DeviceInfoProxy::setAdaptiveAudioParameters(bool preMixType) {
-    if (m_unit && preMixType != adaptiveAudioParameters()) {
+    // While an earlier choice is on its way, what is shown is no measure.
+    if (m_unit && (settling() || preMixType != adaptiveAudioParameters())) {
         m_manager->setAdaptiveAudioParameters(preMixType ? voicesLeftOut : 0);
     }
 }

@@ -29,6 +29,12 @@ void PendingSettings::add(std::shared_ptr<DeviceInfo> unit, std::shared_ptr<Devi
     m_waiting.push_back(std::move(setting));
 }
 
+void PendingSettings::forget(const std::shared_ptr<DeviceInfo>& unit) {
+    const auto concerns = [&unit](const Setting& setting) { return setting.unit == unit; };
+    m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), concerns), m_waiting.end());
+    m_inFlight.isSecondTry = m_inFlight.isSecondTry || concerns(m_inFlight);
+}
+
 const PendingSettings::Setting& PendingSettings::take() {
     m_inFlight = std::move(m_waiting.front());
     m_waiting.pop_front();
@@ -37,7 +43,9 @@ const PendingSettings::Setting& PendingSettings::take() {
 
 void PendingSettings::finish(bool heard) {
     Setting ended = std::exchange(m_inFlight, {});
-    if (!ended.request || heard || ended.isSecondTry) {
+    // A page that is opened asks for a content update by itself: the next one will.
+    if (!ended.request || heard || ended.isSecondTry ||
+        ended.request->requestType == DeviceUpdateRequest::SetContentUpdate) {
         return;
     }
     const bool isOutdated = std::any_of(m_waiting.begin(), m_waiting.end(),

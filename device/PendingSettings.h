@@ -27,6 +27,9 @@ public:
     /// Whether a setting of that seat waits or is in flight: what the unit told of it before may be outdated.
     bool holdsSeat(const std::shared_ptr<DeviceInfo>& unit, int index) const;
 
+    /// Drops what waits for a unit that is gone, and tries nothing for it again.
+    void forget(const std::shared_ptr<DeviceInfo>& unit);
+
     /// The next one to send, which is in flight from now on. Not while empty or in flight.
     const Setting& take();
 

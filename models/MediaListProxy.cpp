@@ -37,37 +37,34 @@ void MediaListProxy::setSourceModel(QAbstractItemModel* source) {
     m_shown.clear();
     endResetModel();
     if (source) {
-        connect(source, &QAbstractItemModel::rowsInserted, this, &MediaListProxy::onStructureChanged);
-        connect(source, &QAbstractItemModel::rowsRemoved, this, &MediaListProxy::onStructureChanged);
-        connect(source, &QAbstractItemModel::modelReset, this, &MediaListProxy::onStructureChanged);
-        connect(source, &QAbstractItemModel::dataChanged, this, [this] {
-            m_valuesChanged = true;
-            scheduleRefresh();
-        });
+        connect(source, &QAbstractItemModel::rowsInserted, this, &MediaListProxy::scheduleRefresh);
+        connect(source, &QAbstractItemModel::rowsRemoved, this, &MediaListProxy::scheduleRefresh);
+        connect(source, &QAbstractItemModel::modelReset, this, &MediaListProxy::scheduleRefresh);
+        connect(source, &QAbstractItemModel::dataChanged, this, &MediaListProxy::scheduleRefresh);
         refresh();
     }
 }
 
 void MediaListProxy::setSortPasses(QVector<SortPass> passes) {
     m_passes = std::move(passes);
-    refresh();
+    m_refreshScheduled = false;
+    sortAll();
+    show(found());
 }
 
 void MediaListProxy::setFilter(int role, const QString& expression) {
     m_filterRole = role;
     m_filter = QRegularExpression(expression, QRegularExpression::CaseInsensitiveOption);
     m_filter.optimize();
-    show(found());
+    if (m_refreshScheduled) {
+        refresh();
+    } else {
+        show(found());
+    }
 }
 
-/// Rows that are gone must not be asked for; the rest follows when the source has told everything.
-void MediaListProxy::onStructureChanged() {
-    m_order.clear();
-    show({});
-    scheduleRefresh();
-}
-
-// A list that was read again tells its changes run by run: one refresh serves them all.
+// A list that was read again tells its changes run by run: one refresh serves them all. The rows change where
+// they stand, so that whoever is reading the list stays where they are.
 void MediaListProxy::scheduleRefresh() {
     if (!std::exchange(m_refreshScheduled, true)) {
         QMetaObject::invokeMethod(
@@ -84,12 +81,22 @@ void MediaListProxy::scheduleRefresh() {
 void MediaListProxy::refresh() {
     m_refreshScheduled = false;
     sortAll();
-    const bool valuesChanged = std::exchange(m_valuesChanged, false);
-    const QVector<int> rows = found();
-    if (rows != m_shown) {
-        show(rows);
-    } else if (valuesChanged && !m_shown.isEmpty()) {
-        emit dataChanged(index(0, 0), index(m_shown.size() - 1, 0));
+    QVector<int> rows = found();
+    const int former = m_shown.size();
+    const int count = rows.size();
+    if (count < former) {
+        beginRemoveRows({}, count, former - 1);
+        m_shown = std::move(rows);
+        endRemoveRows();
+    } else if (count > former) {
+        beginInsertRows({}, former, count - 1);
+        m_shown = std::move(rows);
+        endInsertRows();
+    } else {
+        m_shown = std::move(rows);
+    }
+    if (const int common = std::min(former, count); common > 0) {
+        emit dataChanged(index(0, 0), index(common - 1, 0));
     }
 }
 
@@ -135,7 +142,7 @@ void MediaListProxy::show(QVector<int> rows) {
 }
 
 QString MediaListProxy::text(int sourceRow, int role) const {
-    return sourceModel()->index(sourceRow, 0).data(role).toString();
+    return sourceModel() ? sourceModel()->index(sourceRow, 0).data(role).toString() : QString();
 }
 
 int MediaListProxy::rowCount(const QModelIndex& parent) const {
@@ -156,7 +163,7 @@ QModelIndex MediaListProxy::parent(const QModelIndex&) const {
 }
 
 QModelIndex MediaListProxy::mapToSource(const QModelIndex& shown) const {
-    const bool inside = shown.isValid() && shown.row() < m_shown.size();
+    const bool inside = sourceModel() && shown.isValid() && shown.row() < m_shown.size();
     return inside ? sourceModel()->index(m_shown.at(shown.row()), 0) : QModelIndex();
 }
 

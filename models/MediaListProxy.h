@@ -36,6 +36,7 @@ public:
     void setFilter(int role, const QString& expression);
 
     int rowCount(const QModelIndex& parent = {}) const override;
+    bool hasChildren(const QModelIndex& parent = {}) const override { return rowCount(parent) > 0; }
     int columnCount(const QModelIndex& parent = {}) const override;
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& child) const override;
@@ -43,7 +44,6 @@ public:
     QModelIndex mapFromSource(const QModelIndex& source) const override;
 
 private:
-    void onStructureChanged();
     void scheduleRefresh();
     void refresh();
     void sortAll();
@@ -57,7 +57,6 @@ private:
     QVector<int> m_order; ///< every row of the source, sorted
     QVector<int> m_shown; ///< those of `m_order` that the search finds
     bool m_refreshScheduled = false;
-    bool m_valuesChanged = false; ///< since the last refresh
 };
 
 } // namespace orvex

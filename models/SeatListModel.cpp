@@ -174,20 +174,24 @@ void SeatListModel::keepPendingEdits(SeatStatusList& seats) const {
 void SeatListModel::update(SeatStatusList seats) {
     keepPendingEdits(seats);
     const int count = static_cast<int>(seats.size());
-    if (count < m_rowCount) {
-        beginRemoveRows({}, count, m_rowCount - 1);
-        m_seats.resize(seats.size());
-        m_rowCount = count;
-        endRemoveRows();
-    }
+    const SeatStatusList former = m_seats;
+    const int common = std::min(count, m_rowCount);
     // A record that only repeats what is shown takes the row silently: the unit's record is the one to edit.
-    const SeatStatusList former = std::exchange(m_seats, std::move(seats));
-    for (int row = 0; row < m_rowCount; ++row) {
+    std::copy(seats.begin(), seats.begin() + common, m_seats.begin());
+    for (int row = 0; row < common; ++row) {
         const auto position = static_cast<std::size_t>(row);
         if (!(*m_seats[position] == *former[position])) {
             emit dataChanged(index(row), index(row));
         }
     }
+    if (count < m_rowCount) {
+        beginRemoveRows({}, count, m_rowCount - 1);
+        m_rowCount = count;
+        m_seats = std::move(seats);
+        endRemoveRows();
+        return;
+    }
+    m_seats = std::move(seats);
     if (m_rowCount < count) {
         beginInsertRows({}, m_rowCount, count - 1);
         m_rowCount = count;

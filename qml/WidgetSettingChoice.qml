@@ -42,7 +42,7 @@ Column {
         description: root.description
         onActivated: {
             held.hold(index);
-            if (index !== root.unitValue) {
+            if (root.settling || index !== root.unitValue) {
                 root.edited(index);
             }
             held.release();

@@ -62,7 +62,7 @@ Column {
         }
         onCommitted: {
             held.inHand = false;
-            if (held.isHeld && held.ownValue !== root.unitValue) {
+            if (held.isHeld && (root.settling || held.ownValue !== root.unitValue)) {
                 root.edited(held.ownValue);
             }
             held.release();

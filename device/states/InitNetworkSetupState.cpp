@@ -38,20 +38,26 @@ void InitNetworkSetupState::onTimer() {
     if (!isCommunicatorIdle()) {
         return;
     }
-    drainDiscovery();
+    drainDiscovery(Relocation::AskedAgain);
     m_asked = nextToAsk();
     m_isAsking = m_asked != nullptr;
     requestFields(m_asked, DeviceField::mask({DeviceField::Network}), requestTimeout);
 }
 
-/// The next unit, after the one asked last, that answers but has not told how it is connected.
+/// The next unit, after the one asked last, that has not told how it is connected: one that answers, else one
+/// that did not answer the last time.
 std::shared_ptr<DeviceInfo> InitNetworkSetupState::nextToAsk() const {
+    const auto answering = nextUnknown(true);
+    return answering ? answering : nextUnknown(false);
+}
+
+std::shared_ptr<DeviceInfo> InitNetworkSetupState::nextUnknown(bool online) const {
     const auto count = devices().size();
     const int next = positionOf(m_asked) + 1;
     const auto start = static_cast<std::size_t>(next);
     for (std::size_t step = 0; step < count; ++step) {
         const auto& unit = devices()[(start + step) % count];
-        if (unit->isOnline() && !unit->isFieldValid(DeviceField::Network)) {
+        if (unit->isOnline() == online && !unit->isFieldValid(DeviceField::Network)) {
             return unit;
         }
     }

@@ -17,6 +17,7 @@ public:
 
 private:
     std::shared_ptr<DeviceInfo> nextToAsk() const;
+    std::shared_ptr<DeviceInfo> nextUnknown(bool online) const;
 
     State& m_wiFiListState;
     std::shared_ptr<DeviceInfo> m_asked;

@@ -12,8 +12,8 @@ constexpr std::uint32_t requestTimeout = 5000; // ms
 } // namespace
 
 void MonitorDeviceWiFiState::onTimer() {
-    drainDiscovery(Relocation::Followed);
     if (isCommunicatorIdle()) {
+        drainDiscovery(Relocation::Followed);
         requestFields(selected(), DeviceField::mask({DeviceField::Network}), requestTimeout);
     }
 }

@@ -109,6 +109,23 @@ TEST_F(SetUpTest, AUnitThatNeverComesBackHasNoOutcomeAndTheListWorksOn) {
     EXPECT_TRUE(comes([&] { return areAllKnown(); }));
 }
 
+TEST_F(SetUpTest, AUnitKnownFromItsFormerNetworkIsFoundAtItsAccessPoint) {
+    RunningUnit known(host, "Known");
+    list(known);
+    EXPECT_TRUE(comes([&] { return areAllKnown(); }));
+    known.stop();
+    known.changeState([](Simulator::UnitState& state) {
+        state.network.hotspotActive = true;
+        state.network.wifiOnline = false;
+        state.network.address = RunningUnit::freeAddress();
+    });
+    known.start();
+    manager->startDeviceSetup();
+    announceAgain(known);
+    EXPECT_TRUE(comes([&] { return !proxy.wiFiPoints().isEmpty(); }));
+    EXPECT_EQ(proxy.uid().toStdString(), known.uid());
+}
+
 TEST_F(SetUpTest, TheNetworkItIsOnAlreadyIsNoNewOne) {
     findUnit();
     manager->connectDeviceToWiFi(network, key);

@@ -87,6 +87,41 @@ TEST_F(SettingsTest, ReachTheUnitOnceWhileNothingAndWhileAPollIsUnderWay) {
     }
 }
 
+TEST_F(SettingsTest, AChoiceThatIsTakenBackBeforeItWasReadBackIsTakenBack) {
+    unit.fail(AnswerFault::Drop, {"GetAdaptiveAudioParameters"});
+    EXPECT_TRUE(comes([&] { return !communicator->isIdle(); }));
+    proxy.setAdaptiveAudioParameters(true);
+    EXPECT_TRUE(proxy.settling());
+    proxy.setAdaptiveAudioParameters(false);
+    unit.setFaults({});
+    EXPECT_TRUE(comes([&] { return heard("SetAdaptiveAudioParameters") == 1 && !proxy.settling(); }));
+    EXPECT_EQ(unit.state().audio.preMixType, 0);
+
+    proxy.setMotionDelay(50);
+    manager->showingNetworkStatus();
+    EXPECT_TRUE(comes([&] { return heard("GetNetworkState") > 3 && unit.state().motionDelay == 50; }));
+    EXPECT_TRUE(proxy.settling()) << "another page's reading tells nothing of it";
+    manager->showingDeviceInfo();
+    EXPECT_TRUE(comes([&] { return !proxy.settling(); }));
+    EXPECT_EQ(proxy.motionDelay(), 50);
+}
+
+TEST_F(SettingsTest, AContentUpdateIsAskedOfTheUnitThatIsShownAlone) {
+    RunningUnit other(host, "B");
+    manager->activateDeviceList();
+    list(other);
+    EXPECT_TRUE(comes([&] { return areAllKnown(); }));
+    unit.fail(AnswerFault::Drop);
+    manager->selectDevice(0);
+    manager->showingDeviceInfo();
+    pass(550);
+    manager->activateDeviceList();
+    manager->selectDevice(1);
+    manager->showingDeviceInfo();
+    EXPECT_TRUE(comes([&] { return other.counters().requestsOf("RequestContentUpdate") == 1; }));
+    EXPECT_EQ(heard("RequestContentUpdate"), 1U) << "of the first opening";
+}
+
 TEST_F(SettingsTest, SurviveAChangeOfPageAndALostConnection) {
     proxy.setMotionDelay(5);
     proxy.setRecognitionTolerance(6);
