@@ -5,1186 +5,1203 @@
     <name>ButtonDevice</name>
     <message>
         <source>%1 (Local)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(ローカル)</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
     <name>ButtonNetwork</name>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>接続済み</translation>
     </message>
 </context>
 <context>
     <name>ContentUpdateState</name>
     <message>
         <source>Unknown state</source>
-        <translation type="unfinished"></translation>
+        <translation>不明な状態</translation>
     </message>
     <message>
         <source>Checking for new content</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいコンテンツを確認中</translation>
     </message>
     <message>
         <source>Error checking for new content</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいコンテンツを確認できません</translation>
     </message>
     <message>
         <source>Downloading content</source>
-        <translation type="unfinished"></translation>
+        <translation>コンテンツをダウンロード中</translation>
     </message>
     <message>
         <source>Error downloading content</source>
-        <translation type="unfinished"></translation>
+        <translation>コンテンツをダウンロードできません</translation>
     </message>
     <message>
         <source>Server content not ready</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーのコンテンツが準備中</translation>
     </message>
     <message>
         <source>Content install pending</source>
-        <translation type="unfinished"></translation>
+        <translation>コンテンツのインストール待ち</translation>
     </message>
     <message>
         <source>Installing content</source>
-        <translation type="unfinished"></translation>
+        <translation>コンテンツをインストール中</translation>
     </message>
     <message>
         <source>Error installing content</source>
-        <translation type="unfinished"></translation>
+        <translation>コンテンツをインストールできません</translation>
     </message>
     <message>
         <source>Code: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>コード:%1</translation>
     </message>
 </context>
 <context>
     <name>CrashHandlerImpl</name>
     <message>
         <source>Orvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvex</translation>
     </message>
     <message>
         <source>An error has occured. The application must exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーが発生しました。アプリを終了します。</translation>
     </message>
 </context>
 <context>
     <name>DeviceInfoProxy</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Orvex Coded Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvexコード対応ビデオ</translation>
     </message>
     <message>
         <source>Premium haptic experience for Orvex coded movies and TV shows, using audio synchronization.</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvexコード対応の映画やテレビ番組を、音声に同期した最高品質のハプティクスで楽しめます。</translation>
     </message>
     <message>
         <source>Orvex Coded Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvexコード対応ゲーム</translation>
     </message>
     <message>
         <source>Premium haptic experience for Orvex coded apps, simulators and games.</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvexコード対応のアプリ、シミュレーター、ゲームを、最高品質のハプティクスで楽しめます。</translation>
     </message>
     <message>
         <source>Adaptive Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>アダプティブオーディオ</translation>
     </message>
     <message>
         <source>Automated haptic experience for any movie, music and TV show, using audio processing.</source>
-        <translation type="unfinished"></translation>
+        <translation>音声を解析し、あらゆる映画、音楽、テレビ番組に合わせてハプティクスを自動で作り出します。</translation>
     </message>
     <message>
         <source>Adaptive Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>アダプティブゲーム</translation>
     </message>
     <message>
         <source>Haptic experience using real-time events from game controller or keyboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲームコントローラーやキーボードの操作にリアルタイムで応えるハプティクスを楽しめます。</translation>
     </message>
     <message>
         <source>Unknown Mode - Update Your App</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なモード - アプリを更新してください</translation>
     </message>
     <message>
         <source>Update your app to see the newest Quivera Modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>最新のQuiveraモードを表示するには、アプリを更新してください。</translation>
     </message>
     <message>
         <source>Error with Quivera agent (%1) - try restarting the Quivera app</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiveraエージェントのエラー(%1) - Quiveraアプリを再起動してください</translation>
     </message>
     <message>
         <source>Oops, something went wrong (%1) - try restarting the Quivera app or device</source>
-        <translation type="unfinished"></translation>
+        <translation>問題が発生しました(%1) - Quiveraアプリまたは機器を再起動してください</translation>
     </message>
     <message>
         <source>No seat detected (%1) - connect your device or check your connections</source>
-        <translation type="unfinished"></translation>
+        <translation>シートが見つかりません(%1) - 機器を接続するか、接続を確認してください</translation>
     </message>
     <message>
         <source>Error with Adaptive Gaming (%1) - try restarting your PC or reinstalling the software</source>
-        <translation type="unfinished"></translation>
+        <translation>アダプティブゲームのエラー(%1) - PCを再起動するか、ソフトウェアを再インストールしてください</translation>
     </message>
     <message>
         <source>Error with Adaptive Gaming setup (%1) - try reinstalling the software</source>
-        <translation type="unfinished"></translation>
+        <translation>アダプティブゲームの設定エラー(%1) - ソフトウェアを再インストールしてください</translation>
     </message>
     <message>
         <source>Oops, something went wrong (%1) - try restarting your PC or reinstalling the software</source>
-        <translation type="unfinished"></translation>
+        <translation>問題が発生しました(%1) - PCを再起動するか、ソフトウェアを再インストールしてください</translation>
     </message>
     <message>
         <source>Quivera Mode selection failed (%1) - try restarting the Quivera app or device</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiveraモードを選択できませんでした(%1) - Quiveraアプリまたは機器を再起動してください</translation>
     </message>
     <message>
         <source>Error with haptic device (%1) - try replugging your cables</source>
-        <translation type="unfinished"></translation>
+        <translation>ハプティクス機器のエラー(%1) - ケーブルを接続し直してください</translation>
     </message>
     <message>
         <source>N/A</source>
         <comment>update time</comment>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Please wait for mode change...</source>
-        <translation type="unfinished"></translation>
+        <translation>モードを切り替えています...</translation>
     </message>
     <message>
         <source>It is starting. Please wait a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>起動しています。しばらくお待ちください。</translation>
     </message>
     <message>
         <source>Restart your PC. If this does not help, reinstall the Quivera software.</source>
-        <translation type="unfinished"></translation>
+        <translation>PCを再起動してください。それでも直らない場合は、Quiveraソフトウェアを再インストールしてください。</translation>
     </message>
     <message>
         <source>It is not running. Restart the Quivera app or your PC.</source>
-        <translation type="unfinished"></translation>
+        <translation>動作していません。QuiveraアプリまたはPCを再起動してください。</translation>
     </message>
     <message>
         <source>Update your app to learn what this state means.</source>
-        <translation type="unfinished"></translation>
+        <translation>この状態の意味を確認するには、アプリを更新してください。</translation>
     </message>
 </context>
 <context>
     <name>MediaStatus</name>
     <message>
         <source>Configuring Audio Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>音声の取り込みを設定中</translation>
     </message>
     <message>
         <source>Audio Capture Configured</source>
-        <translation type="unfinished"></translation>
+        <translation>音声の取り込みの設定完了</translation>
     </message>
     <message>
         <source>Starting Audio Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>音声の取り込みを開始中</translation>
     </message>
     <message>
         <source>Audio Capture Started</source>
-        <translation type="unfinished"></translation>
+        <translation>音声の取り込みを開始</translation>
     </message>
     <message>
         <source>Stopping Audio Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>音声の取り込みを停止中</translation>
     </message>
     <message>
         <source>Audio Capture Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>音声の取り込みを停止</translation>
     </message>
     <message>
         <source>Capturing Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>音声を取り込み中</translation>
     </message>
     <message>
         <source>Silence Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>無音を検出</translation>
     </message>
     <message>
         <source>Audio Source Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>音源を検出</translation>
     </message>
     <message>
         <source>Content Identification Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>コンテンツの認識が途絶</translation>
     </message>
     <message>
         <source>Listening and Analyzing Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>音声を聞き取って解析中</translation>
     </message>
     <message>
         <source>Audio Feed Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>音声信号が途絶</translation>
     </message>
     <message>
         <source>Audio Capture Error</source>
-        <translation type="unfinished"></translation>
+        <translation>音声の取り込みエラー</translation>
     </message>
     <message>
         <source>Unknown Media State</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なメディアの状態</translation>
     </message>
     <message>
         <source>Motion Code Found</source>
-        <translation type="unfinished"></translation>
+        <translation>モーションコードを検出</translation>
     </message>
     <message>
         <source>Looking for Motion Code</source>
-        <translation type="unfinished"></translation>
+        <translation>モーションコードを検索中</translation>
     </message>
     <message>
         <source>Motion Code Available</source>
-        <translation type="unfinished"></translation>
+        <translation>モーションコードあり</translation>
     </message>
     <message>
         <source>Motion Code not Available</source>
-        <translation type="unfinished"></translation>
+        <translation>モーションコードなし</translation>
     </message>
     <message>
         <source>Unknown Motion Code</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なモーションコード</translation>
     </message>
 </context>
 <context>
     <name>PageGenericInput</name>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
     <name>PageMain010DeviceList</name>
     <message>
         <source>ORVEX SYSTEMS</source>
-        <translation type="unfinished"></translation>
+        <translation>ORVEXシステム</translation>
     </message>
     <message>
         <source>Quivera devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器</translation>
     </message>
     <message>
         <source>Network Setup Required</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークの設定が必要</translation>
     </message>
     <message>
         <source>System Update Required</source>
-        <translation type="unfinished"></translation>
+        <translation>システムの更新が必要</translation>
     </message>
     <message>
         <source>No Quivera device found.
 Tap the &quot;Add Quivera Device&quot;
 button below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器が見つかりません。
+下の「Quivera機器を追加」を
+押してください。</translation>
     </message>
     <message>
         <source>Add Quivera Device from Network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークからQuivera機器を追加</translation>
     </message>
     <message>
         <source>Connect a Orvex device to your Wi-Fi</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvex機器をWi-Fiに接続</translation>
     </message>
 </context>
 <context>
     <name>PageMain040DeviceInfo</name>
     <message>
         <source>About this device</source>
-        <translation type="unfinished"></translation>
+        <translation>この機器について</translation>
     </message>
     <message>
         <source>System Update Required</source>
-        <translation type="unfinished"></translation>
+        <translation>システムの更新が必要</translation>
     </message>
     <message>
         <source>This device does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>この機器から応答がありません</translation>
     </message>
     <message>
         <source>%1 requires a more recent software version for compatibility. The update should be done automatically but if it doesn&apos;t, please contact support.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1には、より新しいソフトウェアが必要です。更新は自動で行われますが、行われない場合はサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Check that it is switched on and connected to your network. The page fills again as soon as the device answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>電源が入っていて、ネットワークに接続されていることを確認してください。機器が応答すると、ページの表示が戻ります。</translation>
     </message>
     <message>
         <source>The device answers slowly. Check its network connection if this takes longer.</source>
-        <translation type="unfinished"></translation>
+        <translation>機器の応答に時間がかかっています。続く場合は、機器のネットワーク接続を確認してください。</translation>
     </message>
     <message>
         <source>Reading the settings of the device...</source>
-        <translation type="unfinished"></translation>
+        <translation>機器の設定を読み込んでいます...</translation>
     </message>
 </context>
 <context>
     <name>PageMain050NetworkStatus</name>
     <message>
         <source>NETWORK STATUS</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークの状態</translation>
     </message>
     <message>
         <source>Network status is not valid. Waiting for the device to report it...</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークの状態はまだ不明です。機器からの通知を待っています...</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>接続</translation>
     </message>
     <message>
         <source>Connected to the network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークに接続済み</translation>
     </message>
     <message>
         <source>Not connected to a network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークに未接続</translation>
     </message>
     <message>
         <source>The access point of the device is on: it waits to be set up</source>
-        <translation type="unfinished"></translation>
+        <translation>機器のアクセスポイントがオンになっています:設定待ちです</translation>
     </message>
     <message>
         <source>Wi-Fi Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fiネットワーク</translation>
     </message>
     <message>
         <source>Set Up Wi-Fi</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fiを設定</translation>
     </message>
     <message>
         <source>Reset Network Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク設定をリセット</translation>
     </message>
 </context>
 <context>
     <name>PageMain070DeviceAbout</name>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>機器</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Product</source>
-        <translation type="unfinished"></translation>
+        <translation>製品</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル</translation>
     </message>
     <message>
         <source>Manufacturer</source>
-        <translation type="unfinished"></translation>
+        <translation>メーカー</translation>
     </message>
     <message>
         <source>Serial Number</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアル番号</translation>
     </message>
     <message>
         <source>Device ID</source>
-        <translation type="unfinished"></translation>
+        <translation>機器ID</translation>
     </message>
     <message>
         <source>Software</source>
-        <translation type="unfinished"></translation>
+        <translation>ソフトウェア</translation>
     </message>
     <message>
         <source>Device Software Version</source>
-        <translation type="unfinished"></translation>
+        <translation>機器のソフトウェアのバージョン</translation>
     </message>
     <message>
         <source>App Version</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリのバージョン</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <source>Network Address</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークアドレス</translation>
     </message>
     <message>
         <source>%1 (Local)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(ローカル)</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>ポート</translation>
     </message>
     <message>
         <source>ABOUT THIS DEVICE</source>
-        <translation type="unfinished"></translation>
+        <translation>この機器について</translation>
     </message>
     <message>
         <source>Change device name</source>
-        <translation type="unfinished"></translation>
+        <translation>機器の名前を変更</translation>
     </message>
     <message>
         <source>Not known</source>
-        <translation type="unfinished"></translation>
+        <translation>不明</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>接続</translation>
     </message>
     <message>
         <source>Encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>暗号化あり</translation>
     </message>
     <message>
         <source>Not encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>暗号化なし</translation>
     </message>
 </context>
 <context>
     <name>PageMain076DetailedStatus</name>
     <message>
         <source>DETAILED STATUS</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細な状態</translation>
     </message>
     <message>
         <source>Full Status</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての状態</translation>
     </message>
     <message>
         <source>Faults Only</source>
-        <translation type="unfinished"></translation>
+        <translation>異常のみ</translation>
     </message>
     <message>
         <source>Faults With Siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>異常と隣接項目</translation>
     </message>
     <message>
         <source>Topology Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>構成の概要</translation>
     </message>
     <message>
         <source>Topology Details</source>
-        <translation type="unfinished"></translation>
+        <translation>構成の詳細</translation>
     </message>
     <message>
         <source>What is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>表示する内容</translation>
     </message>
     <message>
         <source>The device reports nothing here. Choose another view above.</source>
-        <translation type="unfinished"></translation>
+        <translation>この表示では、機器からの報告がありません。上で別の表示を選んでください。</translation>
     </message>
     <message>
         <source>The device answers slowly. Check its network connection if this takes longer.</source>
-        <translation type="unfinished"></translation>
+        <translation>機器の応答に時間がかかっています。続く場合は、機器のネットワーク接続を確認してください。</translation>
     </message>
     <message>
         <source>Reading the status of the modules...</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュールの状態を読み込んでいます...</translation>
     </message>
 </context>
 <context>
     <name>PageMain080MediaList</name>
     <message>
         <source>CODED TITLES</source>
-        <translation type="unfinished"></translation>
+        <translation>コード対応タイトル</translation>
     </message>
     <message>
         <source>Search for a title</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトルを検索</translation>
     </message>
     <message>
         <source>Titles found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>見つかったタイトル:%1</translation>
     </message>
     <message>
         <source>Titles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトル:%1</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトル</translation>
     </message>
     <message>
         <source>Released</source>
-        <translation type="unfinished"></translation>
+        <translation>公開日</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>長さ</translation>
     </message>
     <message>
         <source>Coded</source>
-        <translation type="unfinished"></translation>
+        <translation>コード化</translation>
     </message>
     <message>
         <source>No coded titles yet</source>
-        <translation type="unfinished"></translation>
+        <translation>コード対応タイトルはまだありません</translation>
     </message>
     <message>
         <source>No title matches your search</source>
-        <translation type="unfinished"></translation>
+        <translation>該当するタイトルがありません</translation>
     </message>
     <message>
         <source>The device answers slowly. Check its network connection if this takes longer.</source>
-        <translation type="unfinished"></translation>
+        <translation>機器の応答に時間がかかっています。続く場合は、機器のネットワーク接続を確認してください。</translation>
     </message>
     <message>
         <source>Reading the list of titles...</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトルの一覧を読み込んでいます...</translation>
     </message>
     <message>
         <source>The device loads its titles from the internet. Check that it is online, then come back in a few minutes.</source>
-        <translation type="unfinished"></translation>
+        <translation>機器はタイトルをインターネットから読み込みます。オンラインであることを確認し、数分後にもう一度お試しください。</translation>
     </message>
     <message>
         <source>Check the spelling, or search for a part of the title.</source>
-        <translation type="unfinished"></translation>
+        <translation>つづりを確認するか、タイトルの一部で検索してください。</translation>
     </message>
 </context>
 <context>
     <name>PageSetup010WaitForDevice</name>
     <message>
         <source>Open the Wi-Fi settings of this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピューターのWi-Fi設定を開きます。</translation>
     </message>
     <message>
         <source>Join the network whose name begins with &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前が「%1」で始まるネットワークに接続します。</translation>
     </message>
     <message>
         <source>Enter the password &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード「%1」を入力します。</translation>
     </message>
     <message>
         <source>Return to this application.</source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリに戻ります。</translation>
     </message>
     <message>
         <source>Switch on your Quivera device, then connect this computer to it:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器の電源を入れて、このコンピューターを接続してください:</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Network Name</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク名</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード</translation>
     </message>
     <message>
         <source>Searching for
 Quivera device...</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器を
+検索しています...</translation>
     </message>
 </context>
 <context>
     <name>PageWiFiList</name>
     <message>
         <source>Select the Wi-Fi network for your Quivera device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器で使うWi-Fiネットワークを選んでください。</translation>
     </message>
     <message>
         <source>Wi-Fi networks</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fiネットワーク</translation>
     </message>
     <message>
         <source>No Wi-Fi network found yet. Make sure that your router is switched on and near the device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fiネットワークがまだ見つかりません。ルーターの電源が入っていて、機器の近くにあることを確認してください。</translation>
     </message>
 </context>
 <context>
     <name>PageWiFiPassword</name>
     <message>
         <source>Wi-Fi Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fiネットワーク</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード</translation>
     </message>
     <message>
         <source>Leave the password empty if the network is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードのないネットワークの場合は、空のままにしてください。</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>次へ</translation>
     </message>
 </context>
 <context>
     <name>SeatInfo</name>
     <message>
         <source>System OK</source>
-        <translation type="unfinished"></translation>
+        <translation>システム正常</translation>
     </message>
     <message>
         <source>Fault in System</source>
-        <translation type="unfinished"></translation>
+        <translation>システムに異常あり</translation>
     </message>
     <message>
         <source>System in Transition</source>
-        <translation type="unfinished"></translation>
+        <translation>システム移行中</translation>
     </message>
     <message>
         <source>No Power or Actuator Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>電源が入っていないか、アクチュエーターが未接続</translation>
     </message>
     <message>
         <source>No Communication with System</source>
-        <translation type="unfinished"></translation>
+        <translation>システムと通信できません</translation>
     </message>
     <message>
         <source>Status: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>状態:%1</translation>
     </message>
 </context>
 <context>
     <name>Style</name>
     <message>
         <source>Inactive</source>
-        <translation type="unfinished"></translation>
+        <translation>停止中</translation>
     </message>
     <message>
         <source>Fault</source>
-        <translation type="unfinished"></translation>
+        <translation>異常</translation>
     </message>
     <message>
         <source>In transition</source>
-        <translation type="unfinished"></translation>
+        <translation>移行中</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>WidgetAdaptiveAudioCard</name>
     <message>
         <source>Adaptive Audio Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>アダプティブオーディオの設定</translation>
     </message>
     <message>
         <source>Audio Source Level:</source>
-        <translation type="unfinished"></translation>
+        <translation>音源のレベル:</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>Ignore Central Audio (Voice)</source>
-        <translation type="unfinished"></translation>
+        <translation>センター音声(声)を無視</translation>
     </message>
 </context>
 <context>
     <name>WidgetAdaptiveGamingCard</name>
     <message>
         <source>Adaptive Gaming Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>アダプティブゲームの設定</translation>
     </message>
     <message>
         <source>Selected Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>選択中のプロファイル:</translation>
     </message>
     <message>
         <source>No Profile selected</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル未選択</translation>
     </message>
     <message>
         <source>Open Adaptive Gaming Configurator</source>
-        <translation type="unfinished"></translation>
+        <translation>Adaptive Gaming Configuratorを開く</translation>
     </message>
     <message>
         <source>Open Orvex Adaptive Gaming Configurator on your PC.</source>
-        <translation type="unfinished"></translation>
+        <translation>PCでOrvex Adaptive Gaming Configuratorを開いてください。</translation>
     </message>
 </context>
 <context>
     <name>WidgetAudioSource</name>
     <message>
         <source>Audio Source:</source>
-        <translation type="unfinished"></translation>
+        <translation>音源:</translation>
     </message>
     <message>
         <source>Audio Source: None</source>
-        <translation type="unfinished"></translation>
+        <translation>音源:なし</translation>
     </message>
     <message>
         <source>Connect a sound source to the device, or a microphone or sound card to the PC.</source>
-        <translation type="unfinished"></translation>
+        <translation>機器に音源を接続するか、PCにマイクまたはサウンドカードを接続してください。</translation>
     </message>
 </context>
 <context>
     <name>WidgetBusy</name>
     <message>
         <source>Please wait</source>
-        <translation type="unfinished"></translation>
+        <translation>お待ちください</translation>
     </message>
 </context>
 <context>
     <name>WidgetCodedGamingCard</name>
     <message>
         <source>ORVEX Coded Gaming Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>ORVEXコード対応ゲームの設定</translation>
     </message>
     <message>
         <source>Open Game Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Game Centerを開く</translation>
     </message>
     <message>
         <source>Open Orvex Game Center on your PC.</source>
-        <translation type="unfinished"></translation>
+        <translation>PCでOrvex Game Centerを開いてください。</translation>
     </message>
 </context>
 <context>
     <name>WidgetCodedVideoCard</name>
     <message>
         <source>ORVEX Coded Video Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>ORVEXコード対応ビデオの設定</translation>
     </message>
     <message>
         <source>Automatic Input Level Control</source>
-        <translation type="unfinished"></translation>
+        <translation>入力レベルの自動調整</translation>
     </message>
     <message>
         <source>Always on for a source that is an output.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力を音源にしている場合は、常にオンです。</translation>
     </message>
     <message>
         <source>Haptic Delay Calibration:</source>
-        <translation type="unfinished"></translation>
+        <translation>ハプティクスの遅延調整:</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>Moves the haptic effects later or earlier than the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>映像に対してハプティクスのタイミングを前後にずらします</translation>
     </message>
     <message>
         <source>Recognition Tolerance:</source>
-        <translation type="unfinished"></translation>
+        <translation>認識の許容時間:</translation>
     </message>
     <message>
         <source>%1 sec</source>
-        <translation type="unfinished"></translation>
+        <translation>%1秒</translation>
     </message>
     <message>
         <source>How long the haptic effects go on when the sound is not recognised</source>
-        <translation type="unfinished"></translation>
+        <translation>音声を認識できないときにハプティクスを続ける時間</translation>
     </message>
     <message>
         <source>List of ORVEX Coded Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>ORVEXコード対応タイトル一覧</translation>
     </message>
 </context>
 <context>
     <name>WidgetCompanion</name>
     <message>
         <source>It is not installed on this PC.</source>
-        <translation type="unfinished"></translation>
+        <translation>このPCにインストールされていません。</translation>
     </message>
     <message>
         <source>The program did not start. Try again, or install it anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラムを起動できませんでした。もう一度試すか、インストールし直してください。</translation>
     </message>
 </context>
 <context>
     <name>WidgetContentCard</name>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>コンテンツ</translation>
     </message>
     <message>
         <source>Last Updated: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最終更新:%1</translation>
     </message>
 </context>
 <context>
     <name>WidgetDetailRow</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2</translation>
     </message>
 </context>
 <context>
     <name>WidgetHapticCard</name>
     <message>
         <source>Haptic Output</source>
-        <translation type="unfinished"></translation>
+        <translation>ハプティクス出力</translation>
     </message>
     <message>
         <source>Haptic Seats</source>
-        <translation type="unfinished"></translation>
+        <translation>ハプティクスシート</translation>
     </message>
     <message>
         <source>No Seat Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>シートが見つかりません</translation>
     </message>
     <message>
         <source>Check that the seat has power and that its cable is plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>シートの電源が入っていて、ケーブルが差し込まれていることを確認してください。</translation>
     </message>
     <message>
         <source>Open Control Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Control Panelを開く</translation>
     </message>
     <message>
         <source>Open Orvex Control Panel on your PC.</source>
-        <translation type="unfinished"></translation>
+        <translation>PCでOrvex Control Panelを開いてください。</translation>
     </message>
 </context>
 <context>
     <name>WidgetInputPass</name>
     <message>
         <source>Hide the password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードを隠す</translation>
     </message>
     <message>
         <source>Show the password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードを表示</translation>
     </message>
 </context>
 <context>
     <name>WidgetLabeledText</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2</translation>
     </message>
     <message>
         <source>Copy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー:%1</translation>
     </message>
 </context>
 <context>
     <name>WidgetMediaCard</name>
     <message>
         <source>Now Playing:</source>
-        <translation type="unfinished"></translation>
+        <translation>再生中:</translation>
     </message>
     <message>
         <source>Nothing is recognised. Play a coded title with sound on the chosen audio source.</source>
-        <translation type="unfinished"></translation>
+        <translation>何も認識されていません。選択中の音源で、コード対応タイトルを音声付きで再生してください。</translation>
     </message>
     <message>
         <source>%1 of %2 played</source>
-        <translation type="unfinished"></translation>
+        <translation>%2のうち%1を再生</translation>
     </message>
 </context>
 <context>
     <name>WidgetModeCard</name>
     <message>
         <source>Quivera Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiveraモード</translation>
     </message>
     <message>
         <source>Please wait for mode change...</source>
-        <translation type="unfinished"></translation>
+        <translation>モードを切り替えています...</translation>
     </message>
     <message>
         <source>The mode is now %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>モードが「%1」になりました。</translation>
     </message>
 </context>
 <context>
     <name>WidgetNetworkCard</name>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <source>Network status</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークの状態</translation>
     </message>
     <message>
         <source>Shows the network status and its settings</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークの状態と設定を表示します</translation>
     </message>
     <message>
         <source>Device Online</source>
-        <translation type="unfinished"></translation>
+        <translation>機器はオンライン</translation>
     </message>
     <message>
         <source>Device Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>機器はオフライン</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2</translation>
     </message>
     <message>
         <source>Wi-Fi Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fiネットワーク</translation>
     </message>
 </context>
 <context>
     <name>WidgetNetworkInterface</name>
     <message>
         <source>IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IPアドレス</translation>
     </message>
     <message>
         <source>Netmask</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットマスク</translation>
     </message>
     <message>
         <source>Broadcast Address</source>
-        <translation type="unfinished"></translation>
+        <translation>ブロードキャストアドレス</translation>
     </message>
     <message>
         <source>Hardware Address</source>
-        <translation type="unfinished"></translation>
+        <translation>ハードウェアアドレス</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>Not active</source>
-        <translation type="unfinished"></translation>
+        <translation>無効</translation>
     </message>
 </context>
 <context>
     <name>WidgetPageTitle</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
 </context>
 <context>
     <name>WidgetRefusal</name>
     <message>
         <source>The device did not take over this change. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>機器にこの変更が反映されませんでした。もう一度お試しください。</translation>
     </message>
 </context>
 <context>
     <name>WidgetSearchField</name>
     <message>
         <source>Clear the search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索を消去</translation>
     </message>
 </context>
 <context>
     <name>WidgetSeat</name>
     <message>
         <source>Seat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>シート%1</translation>
     </message>
     <message>
         <source>Seat</source>
-        <translation type="unfinished"></translation>
+        <translation>シート</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>ミュート</translation>
     </message>
     <message>
         <source>Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>モーション</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>Vibration</source>
-        <translation type="unfinished"></translation>
+        <translation>振動</translation>
     </message>
     <message>
         <source>Keep motion and vibration together</source>
-        <translation type="unfinished"></translation>
+        <translation>モーションと振動を連動</translation>
     </message>
 </context>
 <context>
     <name>WidgetSeatHealth</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2</translation>
     </message>
     <message>
         <source>Shows the detailed status</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細な状態を表示します</translation>
     </message>
 </context>
 <context>
     <name>WidgetSettingSlider</name>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
     <name>WidgetSoftwareCard</name>
     <message>
         <source>Software Health</source>
-        <translation type="unfinished"></translation>
+        <translation>ソフトウェアの状態</translation>
     </message>
 </context>
 <context>
     <name>WidgetSortButton</name>
     <message>
         <source>Sorts by this column</source>
-        <translation type="unfinished"></translation>
+        <translation>この列で並べ替えます</translation>
     </message>
     <message>
         <source>Sorted, descending</source>
-        <translation type="unfinished"></translation>
+        <translation>降順に並べ替え済み</translation>
     </message>
     <message>
         <source>Sorted, ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>昇順に並べ替え済み</translation>
     </message>
 </context>
 <context>
     <name>WindowMain</name>
     <message>
         <source>CHANGE DEVICE NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>機器の名前を変更</translation>
     </message>
     <message>
         <source>Enter new name</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい名前を入力</translation>
     </message>
 </context>
 <context>
     <name>WindowMainReset</name>
     <message>
         <source>NETWORK RESET</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークのリセット</translation>
     </message>
     <message>
         <source>This will remove all personalized network settings, including Wi-Fi networks. Device will need to be setup again from the home screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fiネットワークを含む、個別のネットワーク設定がすべて削除されます。その後、ホーム画面から機器を設定し直す必要があります。</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Resetting...</source>
-        <translation type="unfinished"></translation>
+        <translation>リセットしています...</translation>
     </message>
     <message>
         <source>Your Quivera device
 network settings
 are reset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器の
+ネットワーク設定を
+リセットしました。</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
     <name>WindowMainWiFi</name>
     <message>
         <source>NETWORK SETUP</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークの設定</translation>
     </message>
     <message>
         <source>Quivera device is
 searching for Wi-Fi</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器が
+Wi-Fiを検索しています</translation>
     </message>
     <message>
         <source>Waiting for your Quivera device to appear on selected network</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したネットワークにQuivera機器が現れるのを待っています</translation>
     </message>
     <message>
         <source>Please connect this device to the same network that you selected for your Quivera device</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピューターを、Quivera機器用に選択したネットワークに接続してください</translation>
     </message>
     <message>
         <source>Quivera device is already connected to selected network.
 Tap the &apos;Back&apos; button above and select another network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器は、選択したネットワークにすでに接続されています。
+上の「戻る」を押して、別のネットワークを選んでください。</translation>
     </message>
     <message>
         <source>Quivera device cannot connect to selected network.
 Tap the &apos;Back&apos; button above and try selecting the network again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器が、選択したネットワークに接続できません。
+上の「戻る」を押して、ネットワークを選び直してください。</translation>
     </message>
     <message>
         <source>Your Quivera device
 successfully connected
 to selected network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器が
+選択したネットワークに
+接続されました。</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
     <name>WindowSetup</name>
     <message>
         <source>Add Quivera Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器を追加</translation>
     </message>
     <message>
         <source>NETWORK SETUP</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークの設定</translation>
     </message>
     <message>
         <source>Quivera device is
 searching for Wi-Fi...</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器が
+Wi-Fiを検索しています...</translation>
     </message>
     <message>
         <source>Waiting for
 Quivera device
 to connect to
 your network...</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器が
+ネットワークに
+接続されるのを
+待っています...</translation>
     </message>
     <message>
         <source>Quivera device cannot connect to your network.
 Tap the &apos;Back&apos; button above and try selecting the network again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器が、ネットワークに接続できません。
+上の「戻る」を押して、ネットワークを選び直してください。</translation>
     </message>
     <message>
         <source>Your Quivera device
 successfully connected
 to your network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quivera機器が
+ネットワークに
+接続されました。</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
     <name>WindowSplashForm.ui</name>
     <message>
         <source>Orvex Quivera</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvex Quivera</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Orvex Quivera</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvex Quivera</translation>
     </message>
 </context>
 </TS>
