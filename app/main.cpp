@@ -11,6 +11,7 @@
 #include "app/QtMessages.h"
 #include "app/RendererChoice.h"
 #include "app/TerminationSignal.h"
+#include "app/Translations.h"
 #include "app/Version.h"
 #include "app/WebView.h"
 #include "qml/UserInterface.h"
@@ -20,6 +21,7 @@
 #include <Velto/Loggers.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQuickStyle>
@@ -97,6 +99,7 @@ int runApplication(int argc, char** argv, const std::string& hostName, Logging& 
     QQuickStyle::setStyle(QStringLiteral("Material"));
     chooseRenderer();
     prepareUserInterface();
+    installTranslations(application, QLocale::system().uiLanguages());
     const TerminationSignal terminationSignal;
 
     auto facade = std::make_shared<Facade>(hostName);

@@ -289,7 +289,7 @@ bool DeviceInfoProxy::experienceModeIsInTransition() const {
 
 QString DeviceInfoProxy::experienceModeDescription() const {
     return m_unit ? DisplayTexts::experienceModeDescription(experienceModeSelected())
-                  : tr("Please wait for mode change...");
+                  : DisplayTexts::modeIsChanging();
 }
 
 QString DeviceInfoProxy::experienceModeErrorMessage() const {

@@ -7,10 +7,9 @@ namespace orvex::DisplayTexts {
 
 namespace {
 
-constexpr auto context = "DeviceInfoProxy";
-
+// lupdate sees a context only where it is written out, so each text below repeats this one.
 QString translated(const char* text) {
-    return QCoreApplication::translate(context, text);
+    return QCoreApplication::translate("DeviceInfoProxy", text);
 }
 
 struct ExperienceMode {
@@ -106,7 +105,7 @@ QString mediaTime(int seconds) {
 QString updateTime(const QDateTime& time) {
     const QDateTime local = time.toLocalTime();
     return local.isValid() ? QLocale().toString(local, QLocale::ShortFormat)
-                           : QCoreApplication::translate(context, "N/A", "update time");
+                           : QCoreApplication::translate("DeviceInfoProxy", "N/A", "update time");
 }
 
 QString experienceModeName(int mode) {
@@ -115,6 +114,10 @@ QString experienceModeName(int mode) {
 
 QString experienceModeDescription(int mode) {
     return translated(modeOf(mode).description);
+}
+
+QString modeIsChanging() {
+    return translated(QT_TRANSLATE_NOOP("DeviceInfoProxy", "Please wait for mode change..."));
 }
 
 QString experienceModeError(int code) {
@@ -133,14 +136,16 @@ QString softwareHealthHint(int status) {
     case 3:
         return {};
     case 2:
-        return QCoreApplication::translate(context, "It is starting. Please wait a moment.");
+        return translated(QT_TRANSLATE_NOOP("DeviceInfoProxy", "It is starting. Please wait a moment."));
     case 1:
-        return QCoreApplication::translate(
-            context, "Restart your PC. If this does not help, reinstall the Quivera software.");
+        return translated(QT_TRANSLATE_NOOP(
+            "DeviceInfoProxy", "Restart your PC. If this does not help, reinstall the Quivera software."));
     case 0:
-        return QCoreApplication::translate(context, "It is not running. Restart the Quivera app or your PC.");
+        return translated(
+            QT_TRANSLATE_NOOP("DeviceInfoProxy", "It is not running. Restart the Quivera app or your PC."));
     default:
-        return QCoreApplication::translate(context, "Update your app to learn what this state means.");
+        return translated(
+            QT_TRANSLATE_NOOP("DeviceInfoProxy", "Update your app to learn what this state means."));
     }
 }
 

@@ -14,6 +14,8 @@ QString updateTime(const QDateTime& time);
 
 QString experienceModeName(int mode);
 QString experienceModeDescription(int mode);
+/// Stands for the description while there is no mode to describe.
+QString modeIsChanging();
 /// `code` as the unit reports it with its modes, 0 for none.
 QString experienceModeError(int code);
 

@@ -2,7 +2,7 @@
 
 packages_build="build-essential cmake ninja-build ccache
   libssl-dev libboost-dev libboost-program-options-dev libspdlog-dev libfmt-dev libtinyxml2-dev rapidjson-dev
-  qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev libqt5svg5-dev
+  qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev libqt5svg5-dev qttools5-dev-tools
   libgtest-dev libgmock-dev"
 packages_run="qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts qml-module-qtquick-controls2
   qml-module-qtquick-templates2 libqt5svg5 libgl1-mesa-dri
