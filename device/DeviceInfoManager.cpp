@@ -273,6 +273,7 @@ void DeviceInfoManager::startRequest(const std::shared_ptr<DeviceInfo>& unit, st
                                      std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout) {
     m_requested = unit;
     m_requestedFields = fields;
+    m_toldFields.reset();
     m_communicator->startRequest(unit, fields, std::move(request), timeout);
 }
 
@@ -349,6 +350,14 @@ void DeviceInfoManager::tellSelected() {
     const int row = positionOf(m_selected);
     if (row >= 0) {
         emit itemUpdated(row);
+    }
+}
+
+void DeviceInfoManager::tellNews() {
+    const DeviceField::Set changed = m_selected->changedFields();
+    if ((changed & ~m_toldFields).any()) {
+        m_toldFields = changed;
+        tellSelected();
     }
 }
 

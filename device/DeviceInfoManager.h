@@ -120,6 +120,7 @@ private:
     bool sendPendingSetting();
     bool tellLoss();
     void tellSelected();
+    void tellNews();
     void sendNow(std::shared_ptr<DeviceUpdateRequest> request, std::uint32_t timeout);
     void startTimer(std::chrono::milliseconds interval);
     void runTimer();
@@ -151,6 +152,7 @@ private:
     std::shared_ptr<DeviceInfo> m_selected;
     std::shared_ptr<DeviceInfo> m_requested; ///< the unit of the request under way, or of the last one
     std::uint32_t m_requestedFields = 0;
+    DeviceField::Set m_toldFields;         ///< changed since the request started, and told
     std::shared_ptr<DeviceInfo> m_leaving; ///< was told to leave its network
     TimeSource& m_time;
     int m_timerId = 0;                  ///< of the state machine

@@ -55,6 +55,9 @@ protected:
     const std::shared_ptr<DeviceInfo>& selected() const { return m_manager.m_selected; }
     void select(std::shared_ptr<DeviceInfo> unit) { m_manager.select(std::move(unit)); }
 
+    /// Tells the views what the selected unit has answered since the request under way started.
+    void tellNews() { m_manager.tellNews(); }
+
     /// Lists what has been announced since the last call; `Followed` also takes over where the selected unit
     /// is now.
     void drainDiscovery(Relocation relocation = Relocation::Ignored) { m_manager.drainDiscovery(relocation); }

@@ -21,7 +21,11 @@ void UpdateSelectedDeviceState::enter() {
 }
 
 void UpdateSelectedDeviceState::onTimer() {
-    if (!selected() || !isCommunicatorIdle()) {
+    if (!selected()) {
+        return;
+    }
+    if (!isCommunicatorIdle()) {
+        tellNews(); // a unit that answers slowly, or not everything, is shown with what it has told
         return;
     }
     m_inFlight = dueRefresh();

@@ -112,6 +112,21 @@ TEST_F(PagePollingTest, ASettingGoesOutOnTheFirstBeatAfterTheRequestUnderWayAndK
     EXPECT_EQ(unit.counters().requestsOf("SetMotionDelay"), 1U);
 }
 
+TEST_F(PagePollingTest, AUnitThatLeavesAQuestionOpenIsShownWithWhatItTold) {
+    RunningUnit unit(host, "A");
+    select(unit);
+    unit.fail(AnswerFault::Drop, {"GetSoftwareHealthStatus"});
+    QSignalSpy told(manager.get(), &DeviceInfoManager::selectedDeviceUpdated);
+    manager->showingDeviceInfo();
+    pass(10);
+    EXPECT_TRUE(eventually([&] { return manager->selectedDevice()->isFieldValid(DeviceField::Seats); }));
+    EXPECT_TRUE(told.isEmpty());
+    pass(8000);
+    EXPECT_FALSE(communicator->isIdle());
+    EXPECT_GE(told.size(), 1);
+    EXPECT_LE(told.size(), 2) << "again only with something new";
+}
+
 TEST_F(PagePollingTest, AnHourOfSleepMakesEverythingBeReadAgainWithinOneTick) {
     RunningUnit unit(host, "A");
     select(unit);
