@@ -26,6 +26,10 @@ constexpr std::uint32_t minimumTimeout = 500;  // ms
 /// and a frozen window would be worse than going on without the report.
 constexpr std::chrono::milliseconds disconnectionPatience{1000};
 
+/// How often a slot that is told of an end may start another request while a new one waits for its turn. One
+/// that always does must not keep the new one waiting for ever.
+constexpr int mostRestarts = 8;
+
 std::uint32_t effectiveTimeout(std::uint32_t timeout) {
     return timeout == 0 ? defaultTimeout : std::max(timeout, minimumTimeout);
 }
@@ -110,14 +114,14 @@ void Communicator::startRequest(std::shared_ptr<DeviceInfo> unit, std::uint32_t 
 
 /// Leaves the messenger either connected to the next unit with no request active, or unconnected.
 void Communicator::finishPreviousRequest(const DeviceInfo& next) {
-    const bool isElsewhere = m_chosen && !(*m_chosen == Place::of(next));
     std::unique_lock lock(m_mutex);
-    const bool hasEnded = m_active && m_end.has_value();
-    if (m_active && (m_connected || hasEnded)) {
+    // Again when a slot that was told of the end has started a request: that one has its end, too.
+    for (int round = 0; round < mostRestarts && m_active && (m_connected || m_end); ++round) {
         const auto previous = m_unit;
+        const bool hasEnded = m_end.has_value();
         const bool success = m_end.value_or(false);
         lock.unlock();
-        if (!hasEnded) {
+        if (!hasEnded && previous) {
             programLog()->warn(
                 "Communicator: new request to {} {} while previous is active, canceling previous",
                 previous->name().toStdString(), previous->address().toStdString());
@@ -126,6 +130,7 @@ void Communicator::finishPreviousRequest(const DeviceInfo& next) {
         onRequestCompleteInternal(success);
         lock.lock();
     }
+    const bool isElsewhere = m_chosen && !(*m_chosen == Place::of(next));
     if (m_connected) {
         if (m_dropping || !m_unit || isElsewhere) {
             // The old unit is forgotten first: it is we who leave it, so it is not offline. One whose time
@@ -331,34 +336,31 @@ void Communicator::cancelRequest() {
     onRequestCompleteInternal(false);
 }
 
+// Decided and forgotten in one go: a connection that comes up meanwhile finds no unit. The end is told last,
+// a request that is started in answer to it stays untouched.
 void Communicator::disconnect() {
     bool connected = false;
     bool active = false;
+    std::shared_ptr<DeviceInfo> unit;
     {
         const std::unique_lock lock(m_mutex);
         connected = m_connected;
         active = m_active;
-    }
-    if (connected) {
-        if (active) {
-            programLog()->warn("Communicator: disconnect() called during request, canceling request");
-            endActiveRequest(false);
-            onRequestCompleteInternal(false);
-        }
-        {
-            const std::unique_lock lock(m_mutex);
-            m_dropping = true;
-        }
-        dropQuietly();
-    }
-    std::shared_ptr<DeviceInfo> unit;
-    {
-        const std::unique_lock lock(m_mutex);
+        m_dropping = connected;
         unit = std::exchange(m_unit, nullptr);
         m_expectedFields = 0;
     }
     if (unit) {
         unit->setOnline(false);
+    }
+    if (!connected) {
+        return;
+    }
+    dropQuietly();
+    if (active) {
+        programLog()->warn("Communicator: disconnect() called during request, canceling request");
+        endActiveRequest(false);
+        onRequestCompleteInternal(false);
     }
 }
 

@@ -143,8 +143,9 @@ std::vector<Outgoing> faultyAnswer(const Faults& faults, const Header& header, s
 
 std::vector<Outgoing> spoil(const Faults& faults, const Header& header, std::string_view body) {
     const bool meant = faults.types.empty() || faults.types.count(header.type) > 0;
-    auto answers =
-        meant ? faultyAnswer(faults, header, body) : std::vector<Outgoing>{wholeAnswer(faults, header, body)};
+    if (!meant)
+        return {wholeAnswer(faults, header, body)};
+    auto answers = faultyAnswer(faults, header, body);
     for (Outgoing& outgoing : answers)
         outgoing.delay = faults.delay;
     return answers;

@@ -40,8 +40,8 @@ enum class AnswerFault {
 struct Faults {
     ConnectionFault connection = ConnectionFault::None;
     AnswerFault answer = AnswerFault::None;
-    std::set<std::string> types;        ///< whose answers the fault meets; empty: all
-    std::chrono::milliseconds delay{0}; ///< before every answer; pings are answered all the same
+    std::set<std::string> types;        ///< whose answers the fault and the delay meet; empty: all
+    std::chrono::milliseconds delay{0}; ///< before each of these answers; pings are answered all the same
     /// Between two bytes of every answer; 0: all at once. While an answer trickles nothing is read.
     std::chrono::milliseconds trickle{0};
     bool wrongKey = false; ///< connections from now on are shown another key than the one announced

@@ -72,10 +72,22 @@ const std::vector<JsonMember<WifiState>> wifiMembers{
 };
 const std::vector<JsonMember<NetworkState>> networkMembers{
     {"online", flag<&NetworkState::online>},
-    {"wifiOnline", flag<&NetworkState::wifiOnline>},
-    {"hotspotActive", flag<&NetworkState::hotspotActive>},
+    {"wifiOnline",
+     [](NetworkState& network, const JsonNode& node) {
+         network.wifiOnline = node.flag();
+         useInterface(network);
+     }},
+    {"hotspotActive",
+     [](NetworkState& network, const JsonNode& node) {
+         network.hotspotActive = node.flag();
+         useInterface(network);
+     }},
     {"ssid", text<&NetworkState::ssid>},
-    {"reachable", flag<&NetworkState::reachable>},
+    {"reachable",
+     [](NetworkState& network, const JsonNode& node) {
+         network.reachable = node.flag();
+         network.moving = network.moving && !network.reachable; // it has arrived
+     }},
 };
 const std::vector<JsonMember<SoftwareState>> softwareMembers{
     {"version", text<&SoftwareState::version>},
@@ -201,7 +213,12 @@ const std::vector<Section> sections{
     {"network", section<&UnitState::network, networkMembers>, {"GetNetworkState"}},
     {"wifi", section<&UnitState::wifi, wifiMembers>, {}},
     {"software", section<&UnitState::software, softwareMembers>, {"GetUpgrade"}},
-    {"content", section<&UnitState::content, contentMembers>, {"GetContentUpdateState", "GetUpdate"}},
+    {"content",
+     [](UnitState& state, const JsonNode& node) {
+         node.read(state.content, contentMembers);
+         updateFromHere(state);
+     },
+     {"GetContentUpdateState", "GetUpdate"}},
     {"mediaCount",
      [](UnitState& state, const JsonNode& node) { state.media.count = node.number(0, maximumMedia); },
      {"GetMediaListNotification"}},

@@ -28,7 +28,7 @@ std::string hardwareAddress(const std::string& serial, unsigned int interface) {
 }
 
 constexpr std::array<const char*, 3> interfaceNames{"Access Point", "Ethernet", "Wi-Fi"};
-enum Interface : std::size_t { AccessPoint = 0, WiFi = 2 };
+enum Interface : std::size_t { AccessPoint = 0, Ethernet = 1, WiFi = 2 };
 
 /// Every other interface loses its address.
 void addressOnly(NetworkState& network, Interface which, const std::string& address) {
@@ -124,6 +124,12 @@ void openAccessPoint(NetworkState& network, const std::string& address) {
     network.hotspotActive = true;
     network.ssid.clear();
     addressOnly(network, AccessPoint, address);
+}
+
+void useInterface(NetworkState& network) {
+    const Interface withoutAccessPoint = network.wifiOnline ? WiFi : Ethernet;
+    addressOnly(network, network.hotspotActive ? AccessPoint : withoutAccessPoint,
+                std::string(network.address));
 }
 
 std::string complaintAboutName(const std::string& name) {

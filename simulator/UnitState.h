@@ -85,6 +85,7 @@ struct ContentState {
     std::string lastStatus = "success";
     ContentFailure failure = ContentFailure::None;
     std::chrono::milliseconds pace{300}; ///< between two steps of an update
+    int run = 0; ///< counts the updates, so that a step of one is not taken for another's
 };
 
 struct MediaState {
@@ -225,6 +226,9 @@ UnitState initialState(const UnitOptions& options);
 /// The unit on the Wi-Fi network, or with its own access point up, reached at this address.
 void joinNetwork(NetworkState& network, const std::string& ssid, const std::string& address);
 void openAccessPoint(NetworkState& network, const std::string& address);
+/// Moves the unit's address to the interface that its flags tell of: the access point's, or Wi-Fi or, without
+/// either, Ethernet.
+void useInterface(NetworkState& network);
 
 constexpr std::size_t maximumNameSize = 128; ///< bytes of UTF-8
 

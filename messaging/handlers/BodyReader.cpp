@@ -1,5 +1,7 @@
 #include "messaging/handlers/BodyReader.h"
 
+#include "device/ProgramLog.h"
+
 namespace Velto::Messaging::Body {
 
 QString toQString(const Value& string) {
@@ -28,6 +30,10 @@ void readInto(QString& target, const Value& value) {
     if (value.IsString()) {
         target = toQString(value);
     }
+}
+
+void tellDropped(const char* what, std::size_t limit) {
+    orvex::programLog()->warn("An answer has more than {} {}, the rest is dropped", limit, what);
 }
 
 const Value* firstMember(const Value& object, std::string_view name) {

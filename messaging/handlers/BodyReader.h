@@ -4,6 +4,7 @@
 
 #include <rapidjson/document.h>
 
+#include <cstddef>
 #include <string_view>
 
 /// How every handler reads a body: the members of an object in their order, by exact name; a member of the
@@ -49,6 +50,36 @@ void readMembers(const Value& object, Record& record, const Table& table) {
                 break;
             }
         }
+    }
+}
+
+/// As many elements are taken from a list in a body, far more than a unit has of anything listed this way: a
+/// frame full of empty elements must not fill the memory.
+constexpr std::size_t longestList = 1024;
+
+/// Logs that the rest of a list was dropped; `what` names its elements.
+void tellDropped(const char* what, std::size_t limit = longestList);
+
+/// Hands each object of an array to `read`, which may add it to `list`, until that is full. The rest is
+/// dropped and logged once. Nothing when the value is no array.
+template <class List, class Read>
+void readObjects(const Value& value, const List& list, const char* what, Read read) {
+    if (!value.IsArray()) {
+        return;
+    }
+    const auto isFull = [&list] { return static_cast<std::size_t>(list.size()) >= longestList; };
+    const bool hadRoom = !isFull();
+    for (const auto& element : value.GetArray()) {
+        if (!element.IsObject()) {
+            continue;
+        }
+        if (isFull()) {
+            if (hadRoom) {
+                tellDropped(what);
+            }
+            return;
+        }
+        read(element);
     }
 }
 

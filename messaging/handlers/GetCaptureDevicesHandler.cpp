@@ -25,14 +25,12 @@ constexpr Body::Member<CaptureDevice> deviceMembers[] = {
 
 CaptureDeviceList parseDevices(const Body::Value& array) {
     CaptureDeviceList devices;
-    for (const auto& element : array.GetArray()) {
-        if (element.IsObject()) {
-            auto device = std::make_shared<CaptureDevice>();
-            Body::readMembers(element, *device, deviceMembers);
-            device->prefixDisplayName();
-            devices.push_back(std::move(device));
-        }
-    }
+    Body::readObjects(array, devices, "capture devices", [&devices](const Body::Value& element) {
+        auto device = std::make_shared<CaptureDevice>();
+        Body::readMembers(element, *device, deviceMembers);
+        device->prefixDisplayName();
+        devices.push_back(std::move(device));
+    });
     std::stable_sort(devices.begin(), devices.end(),
                      [](const auto& a, const auto& b) { return a->friendlyName < b->friendlyName; });
     return devices;
@@ -46,7 +44,7 @@ void GetCaptureDevicesHandler::handleResponse(std::shared_ptr<const IResponse> r
     }
     const auto body = BodyJSONParser::parse(response);
     const auto* array = Body::firstMember(*body, "captureDevices");
-    m_devices.replace(array && array->IsArray() ? parseDevices(*array) : CaptureDeviceList());
+    m_devices.replace(array ? parseDevices(*array) : CaptureDeviceList());
     emit captureDevicesResponseReceived(QStringLiteral("getCaptureDevices"), QVariant());
 }
 

@@ -34,25 +34,56 @@ QString numberText(const Body::Value& number) {
                              : QString::number(number.GetDouble(), 'f', 2);
 }
 
-// Recursion is bounded: a body's nesting is.
-std::shared_ptr<ModuleInfo> parseModule(const Body::Value& name,
-                                        const Body::Value& object) { // NOLINT(misc-no-recursion)
-    auto module = std::make_shared<ModuleInfo>();
-    module->name = Body::toQString(name);
-    for (const auto& member : object.GetObject()) {
-        const auto& value = member.value;
+/// Modules, properties and fields of one answer, all told: some ten times what a unit with all its seats has.
+constexpr std::size_t largestTree = 20'000;
+
+class ModuleReader {
+public:
+    // Recursion is bounded: a body's nesting is.
+    std::shared_ptr<ModuleInfo> read(const Body::Value& name,
+                                     const Body::Value& object) { // NOLINT(misc-no-recursion)
+        auto module = std::make_shared<ModuleInfo>();
+        module->name = Body::toQString(name);
+        for (const auto& member : object.GetObject()) {
+            if (!isPart(member.value)) {
+                continue;
+            }
+            if (!hasRoom()) {
+                break;
+            }
+            readPart(*module, member.name, member.value);
+        }
+        return module;
+    }
+
+    /// Whether one more part is taken; false is logged once.
+    bool hasRoom() {
+        if (m_count == largestTree) {
+            Body::tellDropped("modules and readings", largestTree);
+        }
+        return ++m_count <= largestTree;
+    }
+
+private:
+    static bool isPart(const Body::Value& value) {
+        return value.IsString() || value.IsNumber() || value.IsObject();
+    }
+
+    void readPart(ModuleInfo& module, const Body::Value& name,
+                  const Body::Value& value) { // NOLINT(misc-no-recursion)
         if (value.IsString()) {
-            module->properties.emplace_back(Body::toQString(member.name), Body::toQString(value));
+            module.properties.emplace_back(Body::toQString(name), Body::toQString(value));
         } else if (value.IsNumber()) {
-            module->properties.emplace_back(Body::toQString(member.name), numberText(value));
-        } else if (value.IsObject() && Body::textOf(member.name) == "Field") {
-            Body::readMembers(value, module->fields.emplace_back(), fieldMembers);
-        } else if (value.IsObject()) {
-            module->subModules.push_back(parseModule(member.name, value));
+            module.properties.emplace_back(Body::toQString(name), numberText(value));
+        } else if (Body::textOf(name) == "Field") {
+            Body::readMembers(value, module.fields.emplace_back(), fieldMembers);
+        } else {
+            module.subModules.push_back(read(name, value));
         }
     }
-    return module;
-}
+
+    std::size_t m_count = 0;
+};
 
 } // namespace
 
@@ -76,9 +107,10 @@ void GetDetailedStatusNotificationHandler::handleResponse(std::shared_ptr<const 
     const auto body = BodyJSONParser::parse(response);
     if (!body->ObjectEmpty()) {
         info = QSharedPointer<DetailedStatusInfo>::create();
+        ModuleReader reader;
         for (const auto& member : body->GetObject()) {
-            if (member.value.IsObject()) {
-                info->modules.push_back(parseModule(member.name, member.value));
+            if (member.value.IsObject() && reader.hasRoom()) {
+                info->modules.push_back(reader.read(member.name, member.value));
             }
         }
     }

@@ -5,6 +5,7 @@
 #include <Velto/Messaging/BodyJSONParser.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace Velto::Messaging {
 
@@ -12,28 +13,22 @@ using orvex::ExperienceModesState;
 
 namespace {
 
-void readModeId(QList<int>& ids, const Body::Value& value) {
+void readModeId(std::optional<int>& id, const Body::Value& value) {
     if (value.IsInt()) {
-        ids.append(value.GetInt());
+        id = value.GetInt();
     }
 }
 
-constexpr Body::Member<QList<int>> modeMembers[] = {{"id", &readModeId}};
+constexpr Body::Member<std::optional<int>> modeMembers[] = {{"id", &readModeId}};
 
 void readModes(ExperienceModesState& state, const Body::Value& value) {
-    if (!value.IsArray()) {
-        return;
-    }
-    for (const auto& element : value.GetArray()) {
-        if (!element.IsObject()) {
-            continue;
+    Body::readObjects(value, state.modeIds, "experience modes", [&state](const Body::Value& element) {
+        std::optional<int> id;
+        Body::readMembers(element, id, modeMembers);
+        if (id) {
+            state.modeIds.append(*id);
         }
-        QList<int> ids;
-        Body::readMembers(element, ids, modeMembers);
-        if (!ids.isEmpty()) {
-            state.modeIds.append(ids.last());
-        }
-    }
+    });
 }
 
 constexpr Body::Member<ExperienceModesState> stateMembers[] = {

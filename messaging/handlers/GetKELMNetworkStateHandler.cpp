@@ -21,18 +21,12 @@ constexpr Body::Member<NetworkInterfaceInfo> interfaceMembers[] = {
 
 // An interface is judged by the flags read so far: units write them before the addresses.
 void readAddresses(NetworkStatus& status, const Body::Value& value) {
-    if (!value.IsArray()) {
-        return;
-    }
-    for (const auto& element : value.GetArray()) {
-        if (!element.IsObject()) {
-            continue;
-        }
+    Body::readObjects(value, status.interfaces, "network interfaces", [&status](const Body::Value& element) {
         NetworkInterfaceInfo entry;
         Body::readMembers(element, entry, interfaceMembers);
         entry.classify(status);
         status.interfaces.append(entry);
-    }
+    });
 }
 
 constexpr Body::Member<NetworkStatus> statusMembers[] = {

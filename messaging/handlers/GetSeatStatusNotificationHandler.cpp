@@ -58,16 +58,11 @@ constexpr Body::Member<SeatInfo> seatMembers[] = {
 };
 
 void readSeats(SeatStatusList& seats, const Body::Value& value) {
-    if (!value.IsArray()) {
-        return;
-    }
-    for (const auto& element : value.GetArray()) {
-        if (element.IsObject()) {
-            auto seat = std::make_shared<SeatInfo>();
-            Body::readMembers(element, *seat, seatMembers);
-            seats.push_back(std::move(seat));
-        }
-    }
+    Body::readObjects(value, seats, "seats", [&seats](const Body::Value& element) {
+        auto seat = std::make_shared<SeatInfo>();
+        Body::readMembers(element, *seat, seatMembers);
+        seats.push_back(std::move(seat));
+    });
 }
 
 constexpr Body::Member<SeatStatusList> bodyMembers[] = {{"seat", &readSeats}};

@@ -22,16 +22,11 @@ constexpr Body::Member<SoftwareHealthEntry> entryMembers[] = {
 };
 
 void readEntries(SoftwareHealthStatus& status, const Body::Value& value) {
-    if (!value.IsArray()) {
-        return;
-    }
-    for (const auto& element : value.GetArray()) {
-        if (element.IsObject()) {
-            SoftwareHealthEntry entry;
-            Body::readMembers(element, entry, entryMembers);
-            status.entries.append(entry);
-        }
-    }
+    Body::readObjects(value, status.entries, "programs", [&status](const Body::Value& element) {
+        SoftwareHealthEntry entry;
+        Body::readMembers(element, entry, entryMembers);
+        status.entries.append(entry);
+    });
 }
 
 constexpr Body::Member<SoftwareHealthStatus> statusMembers[] = {

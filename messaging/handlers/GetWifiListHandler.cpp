@@ -29,18 +29,12 @@ void GetWifiListHandler::handleResponse(std::shared_ptr<const IResponse> respons
     QVariantMap states;
     const auto body = BodyJSONParser::parse(response);
     for (const auto& member : body->GetObject()) {
-        if (!member.value.IsArray()) {
-            continue;
-        }
-        for (const auto& element : member.value.GetArray()) {
-            if (!element.IsObject()) {
-                continue;
-            }
+        Body::readObjects(member.value, names, "networks", [&](const Body::Value& element) {
             WiFiListEntry network;
             Body::readMembers(element, network, networkMembers);
             names.append(network.name);
             states.insert(network.name, network.active);
-        }
+        });
     }
     emit wifiNetworkListChangedSignal(QStringLiteral("wifiNetworkList"), names);
     emit wifiNetworkStatusListChangedSignal(QStringLiteral("wifiNetworkStatus"), states);

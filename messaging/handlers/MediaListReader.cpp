@@ -1,5 +1,7 @@
 #include "messaging/handlers/MediaListReader.h"
 
+#include "messaging/handlers/BodyReader.h"
+
 #include <Velto/Messaging/BodyJSONParser.h>
 
 #include <rapidjson/memorystream.h>
@@ -19,6 +21,9 @@ using orvex::MediaEntry;
 using orvex::MediaList;
 
 namespace {
+
+/// Titles; a frame holds some 90,000 proper ones, but millions that are empty.
+constexpr int largestLibrary = 200'000;
 
 QString decoded(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
@@ -140,18 +145,30 @@ private:
         return ++m_depth <= BodyJSONParser::maximumDepth;
     }
 
-    bool leadsOn(bool isObject) const {
+    bool leadsOn(bool isObject) {
         switch (m_place) {
         case Body:
             return isObject && m_isOnTheWay;
         case List:
             return !isObject && m_isOnTheWay;
         case Nothing:
-        case Entries:
             return isObject;
+        case Entries:
+            return isObject && hasRoom();
         default:
             return false;
         }
+    }
+
+    /// Whether one more title is taken; the first that is not is logged.
+    bool hasRoom() {
+        if (m_list->media.size() < largestLibrary) {
+            return true;
+        }
+        if (!std::exchange(m_isFull, true)) {
+            Body::tellDropped("titles", largestLibrary);
+        }
+        return false;
     }
 
     bool leave() {
@@ -170,6 +187,7 @@ private:
     int m_place = Nothing;
     bool m_isFirstMember = true;
     bool m_isOnTheWay = false; ///< the name just read leads on
+    bool m_isFull = false;     ///< and that was logged
 };
 
 } // namespace

@@ -26,13 +26,13 @@ void MessageSender::sendObject(const std::string& type, const std::function<void
     if (!m_messenger) {
         return;
     }
-    m_body.Clear();
-    Writer writer(m_body);
+    rapidjson::StringBuffer body;
+    Writer writer(body);
     writer.StartObject();
     writeMembers(writer);
     writer.EndObject();
-    auto buffer = m_buffers->AcquireBuffer(m_body.GetSize(), true);
-    buffer->GetBuffer().AppendDataPtr(m_body.GetString(), m_body.GetSize());
+    auto buffer = m_buffers->AcquireBuffer(body.GetSize(), true);
+    buffer->GetBuffer().AppendDataPtr(body.GetString(), body.GetSize());
     m_messenger->send(std::make_shared<IMessage>(type, messageNumber, std::string(), std::move(buffer),
                                                  IMessage::GenericMessageType::Request));
 }

@@ -24,9 +24,10 @@ constexpr std::uint32_t messageNumber = 1;
 /// A request without a body. `text` is its argument, "1" for all but one of them.
 std::shared_ptr<IMessage> makeGetMessage(const std::string& type, const std::string& text = "1");
 
-/// What all senders share: the messenger, one buffer that every body is written into, and the envelope.
-/// A sender is used by one thread at a time, which the `Communicator` sees to. It does not own the messenger:
-/// a sender is called inside the messenger's own callbacks, where the last reference to it must never drop.
+/// What all senders share: the messenger, one buffer that every body is sent in, and the envelope. Any
+/// thread: a request may be performed by the messenger's thread while the GUI's already performs the next
+/// one; who comes second waits for the buffer. It does not own the messenger: a sender is called inside the
+/// messenger's own callbacks, where the last reference to it must never drop.
 class MessageSender {
 public:
     using Writer = rapidjson::Writer<rapidjson::StringBuffer>;
@@ -46,7 +47,6 @@ protected:
 private:
     Messenger* m_messenger;
     std::shared_ptr<BufferQueue> m_buffers;
-    rapidjson::StringBuffer m_body;
 };
 
 } // namespace Velto::Messaging

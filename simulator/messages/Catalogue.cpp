@@ -64,7 +64,8 @@ Answer answerTo(UnitState& state, std::string_view type, std::string_view body) 
     if (!body.empty())
         document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag>(body.data(),
                                                                                                body.size());
-    if (document.HasParseError() || !document.IsObject())
+    // The parser takes a zero byte for the end: what stands behind one is no part of an object.
+    if (document.HasParseError() || !document.IsObject() || body.find('\0') != std::string_view::npos)
         return refusal(Status::Malformed, "the body is not one JSON object");
     return message->answer(state, Request{type, document});
 }

@@ -112,6 +112,8 @@ void whileInstalling(ContentState& content) {
         succeed(content);
 }
 
+void waitForStep(UnitState& state);
+
 void advance(UnitState& state) {
     ContentState& content = state.content;
     switch (content.id) {
@@ -131,11 +133,24 @@ void advance(UnitState& state) {
         return;
     }
     state.notifications.push_back({"GetContentUpdateState", stateBody(content)});
-    if (isRunning(content))
-        state.steps.push_back({content.pace, advance});
+    waitForStep(state);
+}
+
+void waitForStep(UnitState& state) {
+    const int number = state.content.run;
+    if (isRunning(state.content))
+        state.steps.push_back({state.content.pace, [number](UnitState& later) {
+                                   if (later.content.run == number) // else another update has begun
+                                       advance(later);
+                               }});
 }
 
 } // namespace
+
+void updateFromHere(UnitState& state) {
+    ++state.content.run;
+    waitForStep(state);
+}
 
 Answer getContentUpdateState(UnitState& state, const Request& /*request*/) {
     return answered(stateBody(state.content));
@@ -151,7 +166,7 @@ Answer requestContentUpdate(UnitState& state, const Request& /*request*/) {
     content.lastStatus = "in_progress";
     enter(content, Checking);
     state.notifications.push_back({"GetContentUpdateState", stateBody(content)});
-    state.steps.push_back({content.pace, advance});
+    updateFromHere(state);
     return {};
 }
 

@@ -17,7 +17,7 @@ struct Fault {
     const char* message;
 };
 
-constexpr std::array<Fault, 11> faults{{{100, 100, "The mode could not be selected"},
+constexpr std::array<Fault, 12> faults{{{100, 100, "The mode could not be selected"},
                                         {101, 101, "A haptic device does not answer"},
                                         {102, 103, "The agent does not answer"},
                                         {104, 104, "Internal error"},
@@ -27,7 +27,8 @@ constexpr std::array<Fault, 11> faults{{{100, 100, "The mode could not be select
                                         {892, 893, "Adaptive gaming is not set up"},
                                         {894, 899, "Adaptive gaming failed"},
                                         {910, 910, "No seat was found"},
-                                        {1100, 1102, "The software on the PC does not answer"}}};
+                                        {1100, 1100, "The agent does not answer"},
+                                        {1101, 1102, "Adaptive gaming failed"}}};
 
 void endTransition(UnitState& state, int previous) {
     ExperienceState& experience = state.experience;

@@ -59,6 +59,9 @@ Answer getUpdate(UnitState& state, const Request& request);
 
 Answer getContentUpdateState(UnitState& state, const Request& request);
 Answer requestContentUpdate(UnitState& state, const Request& request);
+/// Goes on with an update from where the state is now, and with no other. To be called after every change of
+/// that.
+void updateFromHere(UnitState& state);
 
 Answer getMediaList(UnitState& state, const Request& request);
 

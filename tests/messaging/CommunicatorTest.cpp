@@ -204,6 +204,21 @@ TEST_F(CommunicatorTest, ANewRequestEndsAnOlderOneThatIsConnected) {
     EXPECT_EQ(unit.counters().connections, 1U);
 }
 
+TEST_F(CommunicatorTest, ARequestThatIsStartedInAnswerToBeingReplacedHasItsEndToo) {
+    connectToUnit();
+    unit.fail(AnswerFault::Drop);
+    bool isAnswered = false;
+    QObject::connect(communicator.get(), &Communicator::requestComplete, communicator.get(), [&] {
+        if (!std::exchange(isAnswered, true)) {
+            communicator->startRequest(device, listed, nullptr, 20000);
+        }
+    });
+    communicator->startRequest(device, listed, nullptr, 20000);
+    communicator->startRequest(device, 0);
+    EXPECT_EQ(results(), QLatin1String("001"));
+    EXPECT_TRUE(communicator->isIdle());
+}
+
 TEST_F(CommunicatorTest, ANewRequestReplacesAnOlderOneThatWaitsForItsConnection) {
     Faults faults;
     faults.connection = ConnectionFault::HangInTls;

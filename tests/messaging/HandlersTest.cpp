@@ -7,8 +7,10 @@
 #include "messaging/handlers/GetSoftwareHealthStatusHandler.h"
 #include "messaging/handlers/GetUpgradeAndUpdateNotificationHandler.h"
 #include "messaging/handlers/GetWifiListHandler.h"
+#include "messaging/handlers/MediaListReader.h"
 #include "messaging/handlers/WifiSettingHandler.h"
 #include "messaging/records/RecordTypes.h"
+#include "tests/device/ProgramLogCapture.h"
 #include "tests/messaging/HandlerResults.h"
 
 #include <gtest/gtest.h>
@@ -448,6 +450,48 @@ TEST(WifiSettingTest, SucceedsOnlyByATrueResultOfTheFirstMember) {
                              R"({"setWifi":{"result":false,"result":true}})", "{}", ""}) {
         EXPECT_FALSE(result(body)) << body;
     }
+}
+
+/// A frame full of empty elements would otherwise make a record for every few bytes.
+TEST(LongListsTest, AreCutAndSaidToBeOnce) {
+    const orvex::Test::ProgramLogCapture log;
+    const auto many = [](const std::string& element, int count) {
+        std::string list = element;
+        for (int i = 1; i < count; ++i) {
+            list += "," + element;
+        }
+        return list;
+    };
+    const std::string list = "[" + many("{}", 1000) + "]";
+    const auto twice = [&](const std::string& name) {
+        return "{\"" + name + "\":" + list + ",\"" + name + "\":" + list + "}";
+    };
+    GetSeatStatusNotificationHandler seats;
+    values(seats, "GetSeatStatus", twice("seat"));
+    EXPECT_EQ(seats.seats().size(), 1024U);
+    EXPECT_EQ(log.count("more than 1024 seats"), 1U);
+
+    GetSoftwareHealthStatusHandler health;
+    const auto status = record(health, &GetSoftwareHealthStatusHandler::softwareHealthStatusChanged,
+                               "GetSoftwareHealthStatus", twice("softwareHealthStatus"));
+    EXPECT_EQ(status->entries.size(), 1024);
+
+    GetWifiListHandler networks;
+    const auto names = signalledValue(networks, &GetWifiListHandler::wifiNetworkListChangedSignal,
+                                      "GetWifiList", twice("wifiList"), 1);
+    EXPECT_EQ(names.toStringList().size(), 1024);
+
+    GetDetailedStatusNotificationHandler detailed;
+    const auto info =
+        record(detailed, &GetDetailedStatusNotificationHandler::detailedStatusInfoChanged,
+               "GetHapticSystemStatus", "{\"A\":{" + many("\"Field\":{}", 30000) + "},\"B\":{}}");
+    ASSERT_EQ(info->modules.size(), 1U);
+    EXPECT_EQ(info->modules.front()->fields.size(), 19999U) << "the module itself counts, too";
+
+    const auto media = readMediaList("{\"mediaList\":{\"media\":[" + many("{}", 200005) + "]}}");
+    ASSERT_TRUE(media);
+    EXPECT_EQ(media->media.size(), 200000);
+    EXPECT_EQ(log.count("the rest is dropped"), 5U);
 }
 
 } // namespace

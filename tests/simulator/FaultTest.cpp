@@ -102,6 +102,7 @@ TEST_F(FaultyUnit, DropsTheAnswersOfSomeTypes) {
 TEST_F(FaultyUnit, DelaysAnswersAndNothingElse) {
     Faults faults;
     faults.delay = 300ms;
+    faults.types = {"GetKelmName", "GetUpgrade"};
     m_unit.setFaults(faults);
     ForeignClient client;
     connect(client);
@@ -111,6 +112,7 @@ TEST_F(FaultyUnit, DelaysAnswersAndNothingElse) {
     EXPECT_TRUE(eventually([this] { return m_unit.counters().requestsOf("GetUpgrade") == 1; }));
     m_unit.push("GetSeatStatus", "{}");
     EXPECT_EQ(receive(client).word("kind"), "notification") << "overtakes what is held back";
+    EXPECT_EQ(ask(client, "GetUpdate").word("type"), "GetUpdate") << "so does an answer that is not meant";
     EXPECT_EQ(receive(client).word("type"), "GetKelmName");
     EXPECT_EQ(receive(client).word("type"), "GetUpgrade");
     EXPECT_GE(std::chrono::steady_clock::now() - start, 300ms);

@@ -125,6 +125,8 @@ TEST_F(Messages, RefuseWhatCannotBeAndChangeNothing) {
         EXPECT_EQ(answer.status(), bad.status) << bad.type << bad.body;
         EXPECT_FALSE(answer.word("text").empty()) << bad.type << bad.body;
     }
+    const std::string behindZero = std::string(R"({"motionDelay":1})") + '\0' + "rest";
+    EXPECT_EQ(ask(m_client, "SetMotionDelay", behindZero).status(), 2);
     EXPECT_EQ(everything(), before);
     EXPECT_EQ(m_unit.push("GetKelmName", "{}"), 2U);
     told("GetKelmName"); // nobody was told of anything before
@@ -273,4 +275,29 @@ TEST_F(Messages, AUnitChangesNetworks) {
     ForeignClient late;
     EXPECT_NE(late.connectTcp("127.0.0.78", m_unit.port()), "");
     EXPECT_TRUE(m_unit.isRunning());
+
+    apply(
+        R"({"wifi":{"fault":"none"},"network":{"reachable":true,"hotspotActive":true,"wifiOnline":false}})");
+    ForeignClient back;
+    reconnect(back);
+    const Frame byHand = ask(back, "GetNetworkState");
+    EXPECT_STREQ(byHand.body["addresses"][0]["ip"].GetString(), "127.0.0.78");
+    EXPECT_STREQ(byHand.body["addresses"][2]["ip"].GetString(), "") << "the address goes with the flags";
+    EXPECT_EQ(ask(back, "SetWifiSetting", join("Living Room", "sofa-and-popcorn")).status(), 0)
+        << "no change is under way any more";
+}
+
+TEST_F(Messages, AnUpdateThatIsSetGoesOnFromThereAndRunsOnce) {
+    apply(R"({"content":{"stateId":50,"percent":100,"pace":1}})");
+    EXPECT_NE(told("GetContentUpdateState").find(R"("stateId":10)"), std::string::npos);
+    receive(m_client);
+
+    m_unit.changeState([](UnitState& state) {
+        applySettings(state, R"({"content":{"stateId":30,"percent":0,"pace":1}})", "state");
+        applySettings(state, R"({"content":{"stateId":30,"percent":20,"pace":3600000}})", "state");
+    });
+    // The end of a change of mode comes long after the first one's step was due.
+    EXPECT_EQ(ask(m_client, "SetExperienceMode", R"({"experienceMode":2})").status(), 0);
+    EXPECT_EQ(receive(m_client).word("type"), "GetExperienceModes");
+    EXPECT_EQ(m_unit.state().content.percent, 20);
 }
