@@ -39,4 +39,14 @@ std::size_t BareClient::exchange(const std::string& frame) {
     return m_connection->socket.read(m_connection->incoming);
 }
 
+void BareClient::exchangeAll(const std::vector<std::string>& frames) {
+    for (const std::string& frame : frames) {
+        m_connection->socket.write(asio::buffer(frame));
+    }
+    for (std::size_t answer = 0; answer < frames.size(); ++answer) {
+        m_connection->incoming.clear();
+        m_connection->socket.read(m_connection->incoming);
+    }
+}
+
 } // namespace Bench

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Bench {
 
@@ -15,6 +16,9 @@ public:
 
     /// Sends one frame and returns the size of the next one that comes.
     std::size_t exchange(const std::string& frame);
+
+    /// Sends all of them, then waits for as many answers.
+    void exchangeAll(const std::vector<std::string>& frames);
 
 private:
     struct Connection;

@@ -202,7 +202,8 @@ void DeviceInfoManager::setCaptureDevice(int index) {
 }
 
 void DeviceInfoManager::setCaptureVolume(int volume) {
-    queueAndShow(std::make_shared<SetCaptureVolumeRequest>(volume), m_states->updateSelectedDevice);
+    const int mode = m_selected ? m_selected->captureVolume().experienceModeId : 0;
+    queueAndShow(std::make_shared<SetCaptureVolumeRequest>(volume, mode), m_states->updateSelectedDevice);
 }
 
 void DeviceInfoManager::setExperienceMode(int index) {

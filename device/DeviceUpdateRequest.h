@@ -83,7 +83,16 @@ using SetAdaptiveAudioParametersRequest =
 using SetAutomaticVolumeControlRequest =
     SetValueRequest<DeviceUpdateRequest::SetAutomaticVolumeControl, bool>;
 /// dB, within the bounds the unit reports.
-using SetCaptureVolumeRequest = SetValueRequest<DeviceUpdateRequest::SetCaptureVolume, int>;
+struct SetCaptureVolumeRequest : DeviceUpdateRequest {
+    SetCaptureVolumeRequest(int newVolume, int modeWhenSet)
+        : DeviceUpdateRequest(SetCaptureVolume)
+        , volume(newVolume)
+        , experienceModeId(modeWhenSet) {}
+    int volume;
+    /// As read with the level that the user has changed. It serves when the unit's record has forgotten its
+    /// own by the time this is sent.
+    int experienceModeId;
+};
 /// The mode's value, never its position in a list.
 using SetExperienceModeRequest = SetValueRequest<DeviceUpdateRequest::SetExperienceMode, int>;
 /// ms.

@@ -32,6 +32,14 @@ std::uint32_t effectiveTimeout(std::uint32_t timeout) {
 
 } // namespace
 
+Communicator::Place Communicator::Place::of(const DeviceInfo& unit) {
+    return {unit.uid(), unit.address(), unit.port()};
+}
+
+bool Communicator::Place::operator==(const Place& other) const {
+    return uid == other.uid && address == other.address && port == other.port;
+}
+
 Communicator::Communicator(TimeSource& time)
     : m_time(time) {}
 
@@ -94,13 +102,15 @@ void Communicator::startRequest(std::shared_ptr<DeviceInfo> unit, std::uint32_t 
     if (connected) {
         runConnectedProcedure();
     } else {
-        m_messenger->chooseUnit(unit->address().toStdString(), unit->name().toStdString(), unit->port(),
+        m_chosen = Place::of(*unit);
+        m_messenger->chooseUnit(m_chosen->address.toStdString(), unit->name().toStdString(), m_chosen->port,
                                 unit->isEncrypted(), true, static_cast<std::int32_t>(bound / 2));
     }
 }
 
 /// Leaves the messenger either connected to the next unit with no request active, or unconnected.
 void Communicator::finishPreviousRequest(const DeviceInfo& next) {
+    const bool isElsewhere = m_chosen && !(*m_chosen == Place::of(next));
     std::unique_lock lock(m_mutex);
     const bool hasEnded = m_active && m_end.has_value();
     if (m_active && (m_connected || hasEnded)) {
@@ -117,7 +127,7 @@ void Communicator::finishPreviousRequest(const DeviceInfo& next) {
         lock.lock();
     }
     if (m_connected) {
-        if (m_dropping || !m_unit || !m_unit->isSameUnit(next)) {
+        if (m_dropping || !m_unit || isElsewhere) {
             // The old unit is forgotten first: it is we who leave it, so it is not offline. One whose time
             // was up is, however soon the next request follows.
             if (!m_dropping) {
@@ -127,8 +137,9 @@ void Communicator::finishPreviousRequest(const DeviceInfo& next) {
             lock.unlock();
             dropConnection();
         }
-    } else if (m_active) {
-        // The replaced request may be about to be connected. Nothing of the next one may reach that unit.
+    } else if (m_active || isElsewhere) {
+        // The messenger may be about to be connected for a request that was replaced or canceled. Nothing of
+        // the next one may reach that unit, so it lets go of it before there is a next one.
         m_active = false;
         m_unit.reset();
         lock.unlock();

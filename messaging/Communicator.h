@@ -114,6 +114,16 @@ private:
     /// Counts the requests, so that an end can tell which one it belongs to.
     using Serial = std::uint64_t;
 
+    /// Which unit, and where it was found. Kept by value: a record's own place changes when its unit moves.
+    struct Place {
+        QString uid;
+        QString address;
+        quint16 port = 0;
+
+        static Place of(const DeviceInfo& unit);
+        bool operator==(const Place& other) const;
+    };
+
     void finishPreviousRequest(const DeviceInfo& next);
     void dropQuietly();
     void dropConnection();
@@ -127,6 +137,7 @@ private:
     TimeSource& m_time;
     std::shared_ptr<Velto::Messaging::Messenger> m_messenger; ///< GUI thread only
     std::unique_ptr<Parts> m_parts;
+    std::optional<Place> m_chosen; ///< where the messenger was last told to connect; GUI thread only
 
     mutable std::mutex m_mutex; ///< guards all below
     std::shared_ptr<DeviceInfo> m_unit;

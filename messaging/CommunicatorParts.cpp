@@ -108,8 +108,12 @@ constexpr SetAction setActions[] = {
      }},
     {Request::SetCaptureVolume,
      [](Parts& p, const Request& r, const DeviceInfo& unit) {
-         p.setCaptureVolume->triggerSendCaptureVolume(unit.captureVolume().experienceModeId,
-                                                      as<SetCaptureVolumeRequest>(r).value);
+         const auto& request = as<SetCaptureVolumeRequest>(r);
+         // Going offline forgets the record: a default must not pass for the unit's mode.
+         const int mode = unit.isFieldValid(DeviceField::CaptureVolume)
+                              ? unit.captureVolume().experienceModeId
+                              : request.experienceModeId;
+         p.setCaptureVolume->triggerSendCaptureVolume(mode, request.volume);
      }},
     {Request::SetExperienceMode,
      [](Parts& p, const Request& r, const DeviceInfo&) {

@@ -22,18 +22,33 @@ Window {
         anchors.fill: parent
         visible: !setupWindow.visible
         inSetup: setupWindow.inSetup
-        onAddDevice: {
-            setupWindow.visible = true;
-            setupWindow.startSetup();
-        }
+        onAddDevice: setupWindow.open()
     }
 
-    WindowSetup {
+    // Made when the first unit is set up: most starts never need it.
+    Loader {
         id: setupWindow
+
+        readonly property bool inSetup: status === Loader.Ready && item.inSetup
+
+        function open() {
+            active = true;
+            visible = true;
+            forceActiveFocus();
+            item.startSetup();
+        }
+
         anchors.fill: parent
+        active: false
         visible: false
-        onSetupDone: {
-            visible = false;
+        source: "WindowSetup.qml"
+    }
+
+    Connections {
+        target: setupWindow.item
+
+        function onSetupDone() {
+            setupWindow.visible = false;
             deviceManager.activateDeviceList();
         }
     }

@@ -127,7 +127,7 @@ TEST_F(CatalogueTest, EverySettingIsSentByteForByte) {
          R"(SetAutomaticVolumeControl '' {"enable":true})"},
         {std::make_shared<SetAutomaticVolumeControlRequest>(false),
          R"(SetAutomaticVolumeControl '' {"enable":false})"},
-        {std::make_shared<SetCaptureVolumeRequest>(-7),
+        {std::make_shared<SetCaptureVolumeRequest>(-7, 41),
          R"(SetCaptureVolume '' {"volume":-7,"experienceModeId":42})"},
         {std::make_shared<SetExperienceModeRequest>(5), R"(SetExperienceMode '' {"experienceMode":5})"},
         {std::make_shared<SetMotionDelayRequest>(std::numeric_limits<int>::min()),
@@ -143,6 +143,14 @@ TEST_F(CatalogueTest, EverySettingIsSentByteForByte) {
     }
     EXPECT_EQ(heardOf(0, std::make_shared<DeviceUpdateRequest>(3)), Lines()) << "a reserved kind";
     EXPECT_EQ(heardOf(0, std::make_shared<SetSeatSettingRequest>(nullptr)), Lines());
+}
+
+TEST_F(CatalogueTest, AVolumeKeepsTheModeItWasSetInWhenTheRecordForgotIt) {
+    device->setCaptureVolume({42, 0, 1, -20, 20});
+    const auto update =
+        std::make_shared<SetCaptureVolumeRequest>(-7, device->captureVolume().experienceModeId);
+    device->setOnline(false);
+    EXPECT_EQ(heardOf(0, update), Lines({R"(SetCaptureVolume '' {"volume":-7,"experienceModeId":42})"}));
 }
 
 TEST_F(CatalogueTest, ASettingGoesOutBeforeTheFieldsAreAskedForAgain) {

@@ -10,8 +10,31 @@ using namespace std::chrono_literals;
 constexpr std::uint32_t listed = DeviceField::mask(
     {DeviceField::Name, DeviceField::LibraryUpdateTime, DeviceField::ContentUpdate, DeviceField::Network});
 
-class CommunicatorTest : public CommunicatorFixture {
+/// The machine's time, and a look at what goes on when a request sets its time-out: it has left the unit
+/// before it by then, and is not taken up itself yet.
+class WatchedTime : public TimeSource {
+public:
+    TimePoint now() const override { return system().now(); }
+    int startTimer(QObject& owner, int milliseconds, Qt::TimerType type) override {
+        if (look) {
+            look();
+        }
+        return system().startTimer(owner, milliseconds, type);
+    }
+    void stopTimer(QObject& owner, int id) override { system().stopTimer(owner, id); }
+
+    std::function<void()> look;
+};
+
+struct WithWatchedTime {
+    WatchedTime time;
+};
+
+class CommunicatorTest : protected WithWatchedTime, public CommunicatorFixture {
 protected:
+    CommunicatorTest()
+        : CommunicatorFixture(time) {}
+
     /// The connection that the second request of a test reuses.
     void connectToUnit() {
         ASSERT_TRUE(request(device, mask({DeviceField::Name})));
@@ -196,6 +219,35 @@ TEST_F(CommunicatorTest, ANewRequestReplacesAnOlderOneThatWaitsForItsConnection)
     EXPECT_EQ(other.counters().requestsOf("SetKelmName"), 0U);
     EXPECT_TRUE(device->isOnline()) << "nobody has lost it";
     EXPECT_EQ(log.count("canceling"), 0U);
+}
+
+TEST_F(CommunicatorTest, AUnitWhoseRequestWasCanceledIsLeftBeforeTheNextRequestBegins) {
+    communicator->startRequest(device, 0, std::make_shared<SetNameRequest>("Canceled"), 20000);
+    communicator->cancelRequest();
+    ASSERT_TRUE(eventually([&] { return unit.clients() == 1; })) << "the attempt itself goes on";
+    RunningUnit other(host, "Other");
+    bool isLeft = false;
+    time.look = [&] { isLeft = eventuallyElsewhere([&] { return unit.clients() == 0; }); };
+    EXPECT_TRUE(
+        request(other.device(), mask({DeviceField::Name}), 20000, std::make_shared<SetNameRequest>("Next")));
+    EXPECT_TRUE(isLeft) << "a connection of the one could have been taken for the other's";
+    EXPECT_EQ(other.state().name, "Next");
+    EXPECT_EQ(unit.counters().requestsOf("SetKelmName"), 0U);
+}
+
+TEST_F(CommunicatorTest, AUnitThatHasMovedIsNotSpokenToWhereItWas) {
+    UnitOptions same;
+    same.serial = "K-moved";
+    same.encrypted = false;
+    RunningUnit before(host, "Sofa", same);
+    const auto moving = before.device();
+    ASSERT_TRUE(request(moving, mask({DeviceField::Name})));
+    before.fail(AnswerFault::Drop); // silent: the old connection says nothing of its end
+    RunningUnit after(host, "Sofa", same);
+    moving->moveTo(*after.device());
+    EXPECT_TRUE(request(moving, mask({DeviceField::Network})));
+    EXPECT_EQ(after.counters().requestsOf("GetNetworkState"), 1U);
+    EXPECT_TRUE(moving->isOnline());
 }
 
 TEST_F(CommunicatorTest, AnEndOnItsWayIsNotTheNextRequestsEnd) {

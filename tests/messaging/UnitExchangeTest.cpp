@@ -87,7 +87,7 @@ const Change changes[] = {
     {"AutomaticVolumeControl", [] { return make<SetAutomaticVolumeControlRequest>(false); },
      DeviceField::AutomaticVolumeControl, [](const UnitState& s) { return !s.audio.automaticVolume; },
      [](const DeviceInfo& d) { return !d.automaticVolumeControl(); }},
-    {"CaptureVolume", [] { return make<SetCaptureVolumeRequest>(-13); }, DeviceField::CaptureVolume,
+    {"CaptureVolume", [] { return make<SetCaptureVolumeRequest>(-13, 0); }, DeviceField::CaptureVolume,
      [](const UnitState& s) { return s.audio.volumeIn(0) == -13; },
      [](const DeviceInfo& d) {
          const auto volume = d.captureVolume();

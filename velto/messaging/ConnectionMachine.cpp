@@ -13,7 +13,7 @@ Actions ConnectionMachine::choose(ChosenUnit unit, bool connectNow, std::chrono:
     m_unit = std::move(unit);
     m_unitTimeout = timeout;
     if (same && m_state == State::Connected)
-        return {Act::ReportConnected{}};
+        return {Act::ReportConnected{m_generation}};
     if (same && m_state == State::Connecting)
         return connectNow ? Actions{Act::BoundLink{m_generation, bound()}} : Actions{};
     Actions actions = drop();
@@ -37,7 +37,7 @@ Actions ConnectionMachine::linkUp(std::uint64_t generation) {
     if (m_state != State::Connecting || generation != m_generation)
         return {};
     m_state = State::Connected;
-    return {Act::ReportConnected{}};
+    return {Act::ReportConnected{m_generation}};
 }
 
 Actions ConnectionMachine::linkDown(std::uint64_t generation) {

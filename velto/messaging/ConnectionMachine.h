@@ -35,7 +35,9 @@ struct BoundLink {
 struct CloseLink {
     std::uint64_t generation = 0;
 };
-struct ReportConnected {};
+struct ReportConnected {
+    std::uint64_t generation = 0;
+};
 struct ReportLost {};
 struct ReportFailedAttempt {};
 } // namespace Act

@@ -224,10 +224,10 @@ void Messenger::Core::perform(const Act::CloseLink& act) {
 
 // Whoever let go of the unit while the report was on its way must not hear of it any more: they may be about
 // to take it for the next unit's.
-void Messenger::Core::perform(const Act::ReportConnected&) {
+void Messenger::Core::perform(const Act::ReportConnected& act) {
     {
         const std::lock_guard lock(m_mutex);
-        if (!m_machine.isConnected())
+        if (!m_machine.hears(act.generation))
             return;
     }
     m_connectedTold = true;
