@@ -154,7 +154,7 @@
     <message>
         <source>N/A</source>
         <comment>update time</comment>
-        <translation>k. A.</translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>Please wait for mode change...</source>

@@ -154,7 +154,7 @@
     <message>
         <source>N/A</source>
         <comment>update time</comment>
-        <translation>n. d.</translation>
+        <translation>inconnue</translation>
     </message>
     <message>
         <source>Please wait for mode change...</source>

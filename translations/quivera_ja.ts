@@ -5,7 +5,7 @@
     <name>ButtonDevice</name>
     <message>
         <source>%1 (Local)</source>
-        <translation>%1(ローカル)</translation>
+        <translation>%1（ローカル）</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -59,7 +59,7 @@
     </message>
     <message>
         <source>Code: %1</source>
-        <translation>コード:%1</translation>
+        <translation>コード：%1</translation>
     </message>
 </context>
 <context>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Unknown Mode - Update Your App</source>
-        <translation>不明なモード - アプリを更新してください</translation>
+        <translation>不明なモード – アプリを更新してください</translation>
     </message>
     <message>
         <source>Update your app to see the newest Quivera Modes.</source>
@@ -121,35 +121,35 @@
     </message>
     <message>
         <source>Error with Quivera agent (%1) - try restarting the Quivera app</source>
-        <translation>Quiveraエージェントのエラー(%1) - Quiveraアプリを再起動してください</translation>
+        <translation>Quiveraエージェントのエラー（%1） – Quiveraアプリを再起動してください</translation>
     </message>
     <message>
         <source>Oops, something went wrong (%1) - try restarting the Quivera app or device</source>
-        <translation>問題が発生しました(%1) - Quiveraアプリまたは機器を再起動してください</translation>
+        <translation>問題が発生しました（%1） – Quiveraアプリまたは機器を再起動してください</translation>
     </message>
     <message>
         <source>No seat detected (%1) - connect your device or check your connections</source>
-        <translation>シートが見つかりません(%1) - 機器を接続するか、接続を確認してください</translation>
+        <translation>シートが見つかりません（%1） – 機器を接続するか、接続を確認してください</translation>
     </message>
     <message>
         <source>Error with Adaptive Gaming (%1) - try restarting your PC or reinstalling the software</source>
-        <translation>アダプティブゲームのエラー(%1) - PCを再起動するか、ソフトウェアを再インストールしてください</translation>
+        <translation>アダプティブゲームのエラー（%1） – PCを再起動するか、ソフトウェアを再インストールしてください</translation>
     </message>
     <message>
         <source>Error with Adaptive Gaming setup (%1) - try reinstalling the software</source>
-        <translation>アダプティブゲームの設定エラー(%1) - ソフトウェアを再インストールしてください</translation>
+        <translation>アダプティブゲームの設定エラー（%1） – ソフトウェアを再インストールしてください</translation>
     </message>
     <message>
         <source>Oops, something went wrong (%1) - try restarting your PC or reinstalling the software</source>
-        <translation>問題が発生しました(%1) - PCを再起動するか、ソフトウェアを再インストールしてください</translation>
+        <translation>問題が発生しました（%1） – PCを再起動するか、ソフトウェアを再インストールしてください</translation>
     </message>
     <message>
         <source>Quivera Mode selection failed (%1) - try restarting the Quivera app or device</source>
-        <translation>Quiveraモードを選択できませんでした(%1) - Quiveraアプリまたは機器を再起動してください</translation>
+        <translation>Quiveraモードを選択できませんでした（%1） – Quiveraアプリまたは機器を再起動してください</translation>
     </message>
     <message>
         <source>Error with haptic device (%1) - try replugging your cables</source>
-        <translation>ハプティクス機器のエラー(%1) - ケーブルを接続し直してください</translation>
+        <translation>ハプティクス機器のエラー（%1） – ケーブルを接続し直してください</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -353,7 +353,7 @@ button below.</source>
     </message>
     <message>
         <source>The access point of the device is on: it waits to be set up</source>
-        <translation>機器のアクセスポイントがオンになっています:設定待ちです</translation>
+        <translation>機器のアクセスポイントがオンになっています：設定待ちです</translation>
     </message>
     <message>
         <source>Wi-Fi Network</source>
@@ -420,7 +420,7 @@ button below.</source>
     </message>
     <message>
         <source>%1 (Local)</source>
-        <translation>%1(ローカル)</translation>
+        <translation>%1（ローカル）</translation>
     </message>
     <message>
         <source>Port</source>
@@ -506,11 +506,11 @@ button below.</source>
     </message>
     <message>
         <source>Titles found: %1</source>
-        <translation>見つかったタイトル:%1</translation>
+        <translation>見つかったタイトル：%1</translation>
     </message>
     <message>
         <source>Titles: %1</source>
-        <translation>タイトル:%1</translation>
+        <translation>タイトル：%1</translation>
     </message>
     <message>
         <source>Title</source>
@@ -573,7 +573,7 @@ button below.</source>
     </message>
     <message>
         <source>Switch on your Quivera device, then connect this computer to it:</source>
-        <translation>Quivera機器の電源を入れて、このコンピューターを接続してください:</translation>
+        <translation>Quivera機器の電源を入れて、このコンピューターを接続してください：</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -652,7 +652,7 @@ Quivera device...</source>
     </message>
     <message>
         <source>Status: %1</source>
-        <translation>状態:%1</translation>
+        <translation>状態：%1</translation>
     </message>
 </context>
 <context>
@@ -682,7 +682,7 @@ Quivera device...</source>
     </message>
     <message>
         <source>Audio Source Level:</source>
-        <translation>音源のレベル:</translation>
+        <translation>音源のレベル：</translation>
     </message>
     <message>
         <source>%1 dB</source>
@@ -690,7 +690,7 @@ Quivera device...</source>
     </message>
     <message>
         <source>Ignore Central Audio (Voice)</source>
-        <translation>センター音声(声)を無視</translation>
+        <translation>センター音声（声）を無視</translation>
     </message>
 </context>
 <context>
@@ -701,7 +701,7 @@ Quivera device...</source>
     </message>
     <message>
         <source>Selected Profile:</source>
-        <translation>選択中のプロファイル:</translation>
+        <translation>選択中のプロファイル：</translation>
     </message>
     <message>
         <source>No Profile selected</source>
@@ -720,11 +720,11 @@ Quivera device...</source>
     <name>WidgetAudioSource</name>
     <message>
         <source>Audio Source:</source>
-        <translation>音源:</translation>
+        <translation>音源：</translation>
     </message>
     <message>
         <source>Audio Source: None</source>
-        <translation>音源:なし</translation>
+        <translation>音源：なし</translation>
     </message>
     <message>
         <source>Connect a sound source to the device, or a microphone or sound card to the PC.</source>
@@ -769,7 +769,7 @@ Quivera device...</source>
     </message>
     <message>
         <source>Haptic Delay Calibration:</source>
-        <translation>ハプティクスの遅延調整:</translation>
+        <translation>ハプティクスの遅延調整：</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -781,7 +781,7 @@ Quivera device...</source>
     </message>
     <message>
         <source>Recognition Tolerance:</source>
-        <translation>認識の許容時間:</translation>
+        <translation>認識の許容時間：</translation>
     </message>
     <message>
         <source>%1 sec</source>
@@ -815,14 +815,14 @@ Quivera device...</source>
     </message>
     <message>
         <source>Last Updated: %1</source>
-        <translation>最終更新:%1</translation>
+        <translation>最終更新：%1</translation>
     </message>
 </context>
 <context>
     <name>WidgetDetailRow</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1:%2</translation>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -867,18 +867,18 @@ Quivera device...</source>
     <name>WidgetLabeledText</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1:%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>Copy: %1</source>
-        <translation>コピー:%1</translation>
+        <translation>コピー：%1</translation>
     </message>
 </context>
 <context>
     <name>WidgetMediaCard</name>
     <message>
         <source>Now Playing:</source>
-        <translation>再生中:</translation>
+        <translation>再生中：</translation>
     </message>
     <message>
         <source>Nothing is recognised. Play a coded title with sound on the chosen audio source.</source>
@@ -928,7 +928,7 @@ Quivera device...</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1:%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>Wi-Fi Network</source>
@@ -1018,7 +1018,7 @@ Quivera device...</source>
     <name>WidgetSeatHealth</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1:%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>Shows the detailed status</source>
