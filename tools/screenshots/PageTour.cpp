@@ -18,9 +18,10 @@ TEST_F(PageTour, ListOfUnits) {
     const Unit cinema = makeUnit("hub", "Home Cinema", homeCinema);
     const Unit fresh = makeUnit("ruvello", "Ruvello-4F21", "{}", true);
     ASSERT_TRUE(listed(3));
+    ASSERT_TRUE(await([&] { return window.rows().join('\n').contains("| Ruvello | "); }));
     shoot("device-list");
     const Unit den = makeUnit("kelm", "Den", R"({"content": {"stateId": 30, "percent": 40, "code": "7"}})");
-    ASSERT_TRUE(listed(4));
+    ASSERT_TRUE(await([&] { return window.rows().join('\n').contains("40%"); }));
     shoot("device-list-update");
 }
 
