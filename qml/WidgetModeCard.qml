@@ -24,11 +24,11 @@ WidgetCard {
     title: qsTr("Quivera Mode")
     onInTransitionChanged: {
         if (inTransition) {
-            announcement.visible = false;
+            announcement.isDue = false;
             sawTransition = root.visible;
         } else if (sawTransition) {
             sawTransition = false;
-            announcement.visible = root.visible;
+            announcement.isDue = root.visible;
             announcementTime.restart();
         }
     }
@@ -71,6 +71,7 @@ WidgetCard {
     }
 
     WidgetStatus {
+        id: error
         objectName: "modeError"
         visible: !root.inTransition && root.errorMessage.length > 0 && root.errorMessage !== root.noError
         width: parent.width
@@ -81,8 +82,12 @@ WidgetCard {
 
     WidgetStatus {
         id: announcement
+
+        property bool isDue: false
+
         objectName: "modeAnnouncement"
-        visible: false
+        // A change that failed is told by its error alone.
+        visible: isDue && !error.visible
         width: parent.width
         statusType: 3
         text: qsTr("The mode is now %1.").arg(root.modeName)
@@ -91,7 +96,7 @@ WidgetCard {
         Timer {
             id: announcementTime
             interval: 8000
-            onTriggered: announcement.visible = false
+            onTriggered: announcement.isDue = false
         }
     }
 }

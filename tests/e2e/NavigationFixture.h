@@ -33,7 +33,7 @@ protected:
 
     QQuickItem* shownStack() const {
         QQuickItem* const setup = stack("WindowSetup");
-        return setup->isVisible() ? setup : stack("WindowMain");
+        return setup && setup->isVisible() ? setup : stack("WindowMain");
     }
 
     std::string shownPage() const { return shownStack()->property("currentId").toString().toStdString(); }

@@ -1,0 +1,13 @@
+#include <QApplication>
+#include <QQuickStyle>
+
+#include <gtest/gtest.h>
+
+// Every picture is taken by a walk through the real window, which is a GoogleTest: what cannot be reached
+// fails.
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QApplication application(argc, argv);
+    QQuickStyle::setStyle(QStringLiteral("Material"));
+    return RUN_ALL_TESTS();
+}
