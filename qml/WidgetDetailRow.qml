@@ -78,7 +78,7 @@ Item {
         x: nameText.x + root.nameWidth + Style.spaceSmall
         width: Math.max(0, root.width - x - Style.spaceSmall)
         height: parent.height
-        text: root.value
+        text: root.value.trim()
         maximumLineCount: root.lines
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter

@@ -57,6 +57,7 @@ mkdir -p "$output"
 
 export LANGUAGE=$language LANG=$language
 unset LC_ALL LC_MESSAGES
+export XDG_DATA_HOME=$PWD/build/screenshots/data
 export QT_SCALE_FACTOR=$scale
 export QT_QUICK_BACKEND=software
 export VELTO_DISCOVERY_INTERFACES=lo

@@ -1,3 +1,7 @@
+#include "app/Version.h"
+
+#include <Velto/ApplicationInfo.h>
+
 #include <QApplication>
 #include <QQuickStyle>
 
@@ -7,6 +11,9 @@
 // fails.
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    using Velto::ApplicationInfo;
+    ApplicationInfo::Init("QuiveraApp", "QuiveraApp", "Orvex", orvex::programVersion, "",
+                          ApplicationInfo::DataFolderType::User, argc, argv);
     const QApplication application(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Material"));
     return RUN_ALL_TESTS();

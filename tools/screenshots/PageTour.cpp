@@ -137,7 +137,7 @@ TEST_F(PageTour, NameTitlesAndModules) {
     }));
     shoot("media-list");
     press("searchField");
-    type("silver");
+    type("golden");
     shoot("media-search");
     type("(");
     ASSERT_TRUE(appears("mediaNotice"));

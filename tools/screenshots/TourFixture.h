@@ -60,7 +60,7 @@ protected:
     }
 
     void pressUnit(const QString& name) const {
-        for (QQuickItem* row : Test::ShownWindow::items(window.window()->contentItem(), "deviceRow")) {
+        for (QQuickItem* row : window.items(window.window()->contentItem(), "deviceRow")) {
             if (row->property("deviceName") == name) {
                 pressAt(row);
             }
