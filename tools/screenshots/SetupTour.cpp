@@ -16,7 +16,7 @@ TEST_F(SetupTour, SetUpWindow) {
 
     const Unit fresh = makeUnit("ruvello", "Attic", R"({"wifi": {"leaveTime": 50, "joinTime": 1500}})", true);
     searchSlowly(fresh);
-    ASSERT_TRUE(listed(3));
+    ASSERT_TRUE(await([&] { return window.rows().join('\n').contains("| Ruvello | "); }));
     pressUnit("Attic");
     ASSERT_TRUE(arrives("pageSetup020WaitWiFiList"));
     shootWait("setup-wait-list");
