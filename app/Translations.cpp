@@ -17,7 +17,7 @@ namespace orvex {
 
 namespace {
 
-constexpr QLatin1String sourceLanguage("en");
+constexpr auto sourceLanguage = "en";
 
 QString fileOf(const QString& language) {
     return QStringLiteral(":/translations/quivera_%1.qm").arg(language);
@@ -30,12 +30,12 @@ QString languageOf(const QString& name) {
 
 QString firstSpoken(const QStringList& names) {
     for (const QString& name : names) {
-        const QString language = languageOf(name);
-        if (language == sourceLanguage || QFile::exists(fileOf(language))) {
+        QString language = languageOf(name);
+        if (language == QLatin1String(sourceLanguage) || QFile::exists(fileOf(language))) {
             return language;
         }
     }
-    return sourceLanguage;
+    return QString::fromLatin1(sourceLanguage);
 }
 
 bool install(QCoreApplication& application, const QString& file, const QString& folder = {}) {
@@ -51,15 +51,15 @@ bool install(QCoreApplication& application, const QString& file, const QString& 
 
 QString installTranslations(QCoreApplication& application, const QStringList& languages) {
     initialiseTranslationResources();
-    const QString language = firstSpoken(languages);
-    if (language == sourceLanguage) {
+    QString language = firstSpoken(languages);
+    if (language == QLatin1String(sourceLanguage)) {
         return language;
     }
     install(application, QStringLiteral("qtbase_") + language,
             QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     if (!install(application, fileOf(language))) {
         qWarning("The texts of the language %s cannot be loaded", qUtf8Printable(language));
-        return sourceLanguage;
+        return QString::fromLatin1(sourceLanguage);
     }
     return language;
 }

@@ -90,6 +90,7 @@ void listOfUnits(benchmark::State& state) {
         UnitList list(units);
         state.counters["insert_us"] = list.insertAll() / units;
         std::vector<double> updates;
+        updates.reserve(200);
         for (int round = 0; round < 200; ++round) {
             updates.push_back(list.update());
         }
@@ -114,6 +115,7 @@ void tickAmongUnits(benchmark::State& state) {
         UnitList list(units);
         list.insertAll();
         std::vector<double> ticks;
+        ticks.reserve(200);
         for (int round = 0; round < 200; ++round) {
             ticks.push_back(list.tick());
         }
