@@ -216,13 +216,18 @@ void Logging::initialise(std::initializer_list<Velto::LoggerInitialiser> initial
 
 void Logging::shutDown() {
     Velto::ReleaseLoggers();
-    for (const auto& [name, logger] : m_loggers) {
-        logger->flush();
-    }
     m_loggers.clear();
-    m_sinks.clear();
-    // Stops the flusher, drops the loggers, then joins the workers once their queue is written.
+    // Stops the flusher, drops the loggers, then joins the workers once their queue is written. Flushed is
+    // after that: the flush of a logger that drops the oldest message would push out what others have queued.
     spdlog::shutdown();
+    for (const auto& [id, sink] : m_sinks) {
+        try {
+            sink->flush();
+        } catch (const spdlog::spdlog_ex& error) {
+            tell(error.what());
+        }
+    }
+    m_sinks.clear();
 }
 
 void Logging::tell(const std::string& problem) {
