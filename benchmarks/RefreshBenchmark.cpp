@@ -16,6 +16,7 @@
 #include <QEventLoop>
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <stdexcept>
 
@@ -105,6 +106,28 @@ void detailsRefresh(benchmark::State& state) {
     state.counters["allowed"] = 1.5;
 }
 BENCHMARK(detailsRefresh)->Iterations(1)->Repetitions(5)->Unit(benchmark::kMillisecond);
+
+/// Answers that repeat what is known: nothing changes, and no memory stays behind.
+void repeatedAnswers(benchmark::State& state) {
+    Line line;
+    line.unit.changeState([](Simulator::UnitState& unit) { unit.playback.speed = 0; });
+    const auto refreshAll = [&line] {
+        int changes = 0;
+        for (int round = 0; round < refreshes; ++round) {
+            line.refresh();
+            changes += static_cast<int>(line.device->changedFields().count());
+        }
+        return changes;
+    };
+    refreshAll();
+    for (auto _ : state) {
+        const auto before = mallinfo2().uordblks;
+        state.counters["changed_fields"] = refreshAll();
+        state.counters["bytes_left_each"] =
+            (static_cast<double>(mallinfo2().uordblks) - static_cast<double>(before)) / refreshes;
+    }
+}
+BENCHMARK(repeatedAnswers)->Iterations(1)->Repetitions(3)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
