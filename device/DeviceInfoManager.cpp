@@ -450,6 +450,7 @@ void DeviceInfoManager::cancelRequest() {
 
 void DeviceInfoManager::select(std::shared_ptr<DeviceInfo> unit) {
     m_selected = std::move(unit);
+    m_leaving.reset();
     m_wasOnline = m_selected && m_selected->isOnline();
     emit selectedDeviceUpdated();
     setSettling(0);
