@@ -1,8 +1,10 @@
+#include "app/Translations.h"
 #include "app/Version.h"
 
 #include <Velto/ApplicationInfo.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QQuickStyle>
 
 #include <gtest/gtest.h>
@@ -14,7 +16,8 @@ int main(int argc, char** argv) {
     using Velto::ApplicationInfo;
     ApplicationInfo::Init("QuiveraApp", "QuiveraApp", "Orvex", orvex::programVersion, "",
                           ApplicationInfo::DataFolderType::User, argc, argv);
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    orvex::installTranslations(application, QLocale::system().uiLanguages());
     QQuickStyle::setStyle(QStringLiteral("Material"));
     return RUN_ALL_TESTS();
 }

@@ -20,7 +20,8 @@ TEST_F(PageTour, ListOfUnits) {
     ASSERT_TRUE(listed(3));
     ASSERT_TRUE(await([&] { return window.rows().join('\n').contains("| Ruvello | "); }));
     shoot("device-list");
-    const Unit den = makeUnit("kelm", "Den", R"({"content": {"stateId": 30, "percent": 40, "code": "7"}})");
+    const Unit den = makeUnit("kelm", "Den",
+                              R"({"content": {"stateId": 30, "percent": 40, "code": "7", "pace": 600000}})");
     ASSERT_TRUE(await([&] { return window.rows().join('\n').contains("40%"); }));
     shoot("device-list-update");
 }

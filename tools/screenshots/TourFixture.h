@@ -55,7 +55,7 @@ protected:
     static void searchSlowly(const Unit& unit) {
         Simulator::Faults faults;
         faults.delay = std::chrono::milliseconds(2500);
-        faults.types = {"GetWifiList"};
+        faults.types = {"GetWifiList", "SetWifiSetting"}; // long enough for a picture of each wait
         unit->setFaults(faults);
     }
 
