@@ -48,7 +48,7 @@ const ComponentRegistration componentRegistration;
 
 void registerApplication(int argc, char** argv) {
     using Velto::ApplicationInfo;
-    ApplicationInfo::Init("QuiveraApp", "QuiveraApp", "Orvex", programVersion, "",
+    ApplicationInfo::Init("QuiveraApp", "QuiveraApp", programVendor, programVersion, "",
                           ApplicationInfo::DataFolderType::User, argc, argv);
 }
 
