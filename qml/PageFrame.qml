@@ -35,6 +35,7 @@ Rectangle {
 
     WidgetScrollArea {
         id: area
+        objectName: "scrollArea"
         anchors.fill: parent
         anchors.topMargin: bar.visible ? bar.height : 0
 
