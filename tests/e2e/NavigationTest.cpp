@@ -68,6 +68,19 @@ TEST_F(NavigationTest, TellsAboutTheProgramAndWhoseWorkItIsMadeOf) {
     const QStringList parts = shown("partRow").filter(QRegularExpression("^.+: .+\n© .+$"));
     EXPECT_EQ(parts.size(), static_cast<int>(std::size(QuiveraProduct::parts)));
     EXPECT_EQ(parts.filter(QRegularExpression("^Qt .*LGPL")).size(), 1);
+
+    window.window()->resize(400, 600);
+    QQuickItem* const area = window.item("scrollArea");
+    ASSERT_TRUE(area);
+    for (int i = 0; i < 10; ++i) {
+        key(Qt::Key_PageDown);
+    }
+    EXPECT_GT(area->property("contentY").toDouble(), 600) << "the keyboard alone reaches the last part";
+    EXPECT_TRUE(area->property("atYEnd").toBool());
+    for (int i = 0; i < 10; ++i) {
+        key(Qt::Key_PageUp);
+    }
+    EXPECT_TRUE(area->property("atYBeginning").toBool());
 }
 
 TEST_F(NavigationTest, ResetsTheNetworkOnlyWhenThatIsConfirmed) {
