@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Facade.h"
+#include "device/DeviceInfoManager.h"
 #include "qml/UserInterface.h"
 #include "simulator/SimulatedUnit.h"
 #include "simulator/SimulatorHost.h"
@@ -100,6 +101,8 @@ public:
         m_components.Suspend();
         m_components.Shutdown();
     }
+
+    DeviceInfoManager* manager() const { return qobject_cast<DeviceInfoManager*>(m_facade->deviceManager()); }
 
     QQuickWindow* window() const {
         return m_engine->rootObjects().isEmpty()
