@@ -1,5 +1,6 @@
 #include "app/Facade.h"
 
+#include "Product.h"
 #include "app/CompanionProgram.h"
 #include "device/DeviceInfoManager.h"
 #include "device/DeviceInfoProxy.h"
@@ -166,6 +167,22 @@ bool Facade::isAdaptiveGamingConfigAppValid() const {
 
 bool Facade::startAdaptiveGamingConfigApp() const {
     return CompanionProgram(QString::fromLatin1(adaptiveGamingValue)).start();
+}
+
+QVariantMap Facade::getProduct() const {
+    using namespace QuiveraProduct;
+    QVariantList others;
+    for (const Part& part : parts) {
+        others << QVariantMap{{"name", part.name},
+                              {"license", part.license},
+                              {"homePage", part.homePage},
+                              {"copyright", part.copyright}};
+    }
+    return {{"name", name},
+            {"vendor", vendor},
+            {"copyright", copyright},
+            {"license", license},
+            {"parts", others}};
 }
 
 } // namespace orvex

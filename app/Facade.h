@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QVariantMap>
 
 #include <memory>
 #include <string>
@@ -63,6 +64,9 @@ public:
     Q_INVOKABLE bool startCodedGamingConfigApp() const;
     Q_INVOKABLE bool isAdaptiveGamingConfigAppValid() const;
     Q_INVOKABLE bool startAdaptiveGamingConfigApp() const;
+    /// What this program is: "name", "vendor", "copyright" and "license", and in "parts" a list of
+    /// those of others it is made of, each with "name", "license", "homePage" and "copyright".
+    Q_INVOKABLE QVariantMap getProduct() const;
 
 private:
     const std::string m_hostName;

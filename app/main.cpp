@@ -1,3 +1,4 @@
+#include "Product.h"
 #include "app/CommandLine.h"
 #include "app/CompanionProgram.h"
 #include "app/CompanionSettings.h"
@@ -12,7 +13,6 @@
 #include "app/RendererChoice.h"
 #include "app/TerminationSignal.h"
 #include "app/Translations.h"
-#include "app/Version.h"
 #include "app/WebView.h"
 #include "qml/UserInterface.h"
 
@@ -48,7 +48,7 @@ const ComponentRegistration componentRegistration;
 
 void registerApplication(int argc, char** argv) {
     using Velto::ApplicationInfo;
-    ApplicationInfo::Init("QuiveraApp", "QuiveraApp", programVendor, programVersion, "",
+    ApplicationInfo::Init("QuiveraApp", "QuiveraApp", QuiveraProduct::vendor, QuiveraProduct::version, "",
                           ApplicationInfo::DataFolderType::User, argc, argv);
 }
 

@@ -21,7 +21,6 @@
 
 #include <algorithm>
 #include <exception>
-#include <mutex>
 #include <utility>
 
 namespace orvex {
@@ -75,19 +74,6 @@ void DeviceInfoManager::setCommunicator(std::shared_ptr<Communicator> communicat
     m_discoverer = m_communicator->discoverer();
     m_discoverer->AddObserver(m_discovered);
     startTimer(tickInterval);
-}
-
-int DeviceInfoManager::deviceCount() const {
-    const std::shared_lock lock(m_lock);
-    return static_cast<int>(m_devices.size());
-}
-
-std::shared_ptr<DeviceInfo> DeviceInfoManager::deviceAt(int index) const {
-    const std::shared_lock lock(m_lock);
-    if (index < 0 || index >= static_cast<int>(m_devices.size())) {
-        return nullptr;
-    }
-    return m_devices[static_cast<std::size_t>(index)];
 }
 
 void DeviceInfoManager::activateDeviceList() {
@@ -347,7 +333,7 @@ bool DeviceInfoManager::tellLoss() {
 void DeviceInfoManager::tellSelected() {
     m_wasOnline = m_selected->isOnline();
     emit selectedDeviceUpdated();
-    const int row = positionOf(m_selected);
+    const int row = m_devices.positionOf(m_selected);
     if (row >= 0) {
         emit itemUpdated(row);
     }
@@ -461,7 +447,7 @@ void DeviceInfoManager::drainDiscovery(Relocation relocation) {
         if (!m_discoverer->holds(discovered->getUId())) {
             continue; // announced long ago, and gone since
         }
-        const auto known = m_devicesByUid.value(QString::fromStdString(discovered->getUId()));
+        const auto known = m_devices.find(QString::fromStdString(discovered->getUId()));
         const auto announced = std::make_shared<DeviceInfo>(*discovered);
         if (!known) {
             insert(announced);
@@ -474,41 +460,22 @@ void DeviceInfoManager::drainDiscovery(Relocation relocation) {
     }
 }
 
-void DeviceInfoManager::insert(std::shared_ptr<DeviceInfo> unit) {
-    const QString name = unit->name();
-    const auto place = std::upper_bound(m_devices.begin(), m_devices.end(), name,
-                                        [](const QString& wanted, const auto& listed) {
-                                            return wanted.compare(listed->name(), Qt::CaseInsensitive) < 0;
-                                        });
-    const int index = static_cast<int>(place - m_devices.begin());
-    programLog()->info("DeviceInfoManager: {} ({}) listed, at {}:{}", name.toStdString(),
+void DeviceInfoManager::insert(const std::shared_ptr<DeviceInfo>& unit) {
+    const int index = m_devices.insert(unit);
+    programLog()->info("DeviceInfoManager: {} ({}) listed, at {}:{}", unit->name().toStdString(),
                        unit->productName().toStdString(), unit->address().toStdString(), unit->port());
-    {
-        const std::unique_lock lock(m_lock);
-        m_devicesByUid.insert(unit->uid(), unit);
-        m_devices.insert(place, std::move(unit));
-    }
     emit itemsAdded(index, index);
 }
 
 void DeviceInfoManager::remove(const std::shared_ptr<DeviceInfo>& unit) {
-    const int index = positionOf(unit);
+    const int index = m_devices.positionOf(unit);
     if (index < 0) {
         return;
     }
     programLog()->info("DeviceInfoManager: {} no longer listed", unit->name().toStdString());
     m_settings->forget(unit);
-    {
-        const std::unique_lock lock(m_lock);
-        m_devicesByUid.remove(unit->uid());
-        m_devices.erase(m_devices.begin() + index);
-    }
+    m_devices.removeAt(index);
     emit itemsRemoved(index, index);
-}
-
-int DeviceInfoManager::positionOf(const std::shared_ptr<DeviceInfo>& unit) const {
-    const auto found = std::find(m_devices.begin(), m_devices.end(), unit);
-    return unit && found != m_devices.end() ? static_cast<int>(found - m_devices.begin()) : -1;
 }
 
 } // namespace orvex

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "device/DeviceField.h"
+#include "device/DeviceList.h"
 #include "messaging/TimeSource.h"
 
-#include <QHash>
 #include <QObject>
 #include <QString>
 
@@ -11,8 +11,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <shared_mutex>
-#include <vector>
 
 namespace orvex::Messaging {
 class Discoverer;
@@ -46,8 +44,10 @@ public:
     void setCommunicator(std::shared_ptr<Communicator> communicator);
 
     // Read access for the views. Positions are row numbers.
-    int deviceCount() const;
-    std::shared_ptr<DeviceInfo> deviceAt(int index) const; ///< none when out of range
+    int deviceCount() const { return m_devices.size(); }
+    std::shared_ptr<DeviceInfo> deviceAt(int index) const {
+        return m_devices.at(index);
+    } ///< none when out of range
     std::shared_ptr<DeviceInfo> selectedDevice() const { return m_selected; }
     /// Whether the selected unit has not been read again since the user's last setting: what is known of it
     /// may be older than that setting.
@@ -142,9 +142,8 @@ private:
     /// announced; or every one is, and has to tell anew how it is connected.
     enum class Relocation { Ignored, Followed, AskedAgain };
     void drainDiscovery(Relocation relocation);
-    void insert(std::shared_ptr<DeviceInfo> unit);
+    void insert(const std::shared_ptr<DeviceInfo>& unit);
     void remove(const std::shared_ptr<DeviceInfo>& unit);
-    int positionOf(const std::shared_ptr<DeviceInfo>& unit) const; ///< -1 when not listed
 
     std::shared_ptr<Communicator> m_communicator;
     std::shared_ptr<Messaging::Discoverer> m_discoverer;
@@ -164,10 +163,7 @@ private:
     std::unique_ptr<PendingSettings> m_settings;
     std::unique_ptr<States> m_states;
     State* m_state;
-
-    mutable std::shared_mutex m_lock; ///< guards the two below
-    std::vector<std::shared_ptr<DeviceInfo>> m_devices;
-    QHash<QString, std::shared_ptr<DeviceInfo>> m_devicesByUid;
+    DeviceList m_devices;
 };
 
 } // namespace orvex

@@ -23,6 +23,13 @@ Rectangle {
     signal buttonRightClicked
 
     color: Style.background
+    // What stands below the last item that takes the focus is to be read as well.
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp) {
+            area.scrollBy(event.key === Qt.Key_PageDown ? 0.9 : -0.9);
+            event.accepted = true;
+        }
+    }
 
     WidgetPageTitle {
         id: bar
@@ -35,6 +42,7 @@ Rectangle {
 
     WidgetScrollArea {
         id: area
+        objectName: "scrollArea"
         anchors.fill: parent
         anchors.topMargin: bar.visible ? bar.height : 0
 

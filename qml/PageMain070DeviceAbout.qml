@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "."
 
-// What a unit is: its identity, its versions and where it is.
+// What a unit is: its identity, its version and where it is; and what this program is.
 PageFrame {
     id: root
 
@@ -20,8 +20,7 @@ PageFrame {
         {
             title: qsTr("Software"),
             rows: [
-                [qsTr("Device Software Version"), currDevice.softwareVersion, true],
-                [qsTr("App Version"), api.getAppVersion(), true]
+                [qsTr("Device Software Version"), currDevice.softwareVersion, true]
             ]
         },
         {
@@ -76,5 +75,10 @@ PageFrame {
                 text: currDevice.encrypted ? qsTr("Encrypted") : qsTr("Not encrypted")
             }
         }
+    }
+
+    WidgetProductCard {
+        objectName: "productCard"
+        width: parent.width
     }
 }

@@ -62,7 +62,6 @@ QtObject {
 
     readonly property int tipDelay: 600 // ms
 
-    readonly property url logo: "qrc:/qml/images/logo.svg"
     readonly property url symbolAdd: "qrc:/qml/images/add.svg"
     readonly property url symbolAttention: "qrc:/qml/images/attention.svg"
     readonly property url symbolBack: "qrc:/qml/images/back.svg"

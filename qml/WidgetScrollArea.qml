@@ -27,6 +27,11 @@ Flickable {
         }
     }
 
+    // By that part of what is shown; negative: up.
+    function scrollBy(part) {
+        contentY = Math.max(0, Math.min(contentHeight - height, contentY + part * height));
+    }
+
     contentHeight: holder.height + 2 * Style.spaceMedium
     boundsBehavior: Flickable.StopAtBounds
     clip: true

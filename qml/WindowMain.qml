@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Window 2.15
 
 // The pages of the program and the ways between them. Which page is on top decides what is polled.
 WindowMainForm {
@@ -33,6 +32,14 @@ WindowMainForm {
         if (currDevice.hotspotActive) {
             root.addDevice();
         } else {
+            root.showDevice();
+        }
+    }
+
+    // Opens the one unit there is, unless the user is elsewhere already.
+    function selectAutomatically() {
+        if (stack.currentId === "pageMain010DeviceList" && !inSetup) {
+            deviceManager.selectDevice(0);
             root.showDevice();
         }
     }
@@ -133,7 +140,10 @@ WindowMainForm {
         }
     }, reset.pages, wiFi.pages)
 
-    Component.onCompleted: root.stack.push(pageMain010DeviceList)
+    Component.onCompleted: {
+        root.stack.push(pageMain010DeviceList);
+        root.stack.preload();
+    }
     onVisibleChanged: {
         if (visible) {
             stack.focusPage(null);
@@ -162,17 +172,6 @@ WindowMainForm {
     }
 
     Connections {
-        target: deviceListModel
-
-        function onAutomaticDeviceSelect() {
-            if (root.stack.currentId === "pageMain010DeviceList" && !root.inSetup) {
-                deviceManager.selectDevice(0);
-                root.showDevice();
-            }
-        }
-    }
-
-    Connections {
         target: currDevice
 
         function onOnlineChanged() {
@@ -194,13 +193,4 @@ WindowMainForm {
         }
     }
 
-    Connections {
-        id: firstFrame
-        target: root.Window.window
-
-        function onFrameSwapped() {
-            firstFrame.enabled = false;
-            root.stack.preload();
-        }
-    }
 }

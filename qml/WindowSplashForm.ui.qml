@@ -12,11 +12,8 @@ Rectangle {
         anchors.centerIn: parent
         spacing: Style.spaceLarge
 
-        Image {
+        WidgetLogo {
             anchors.horizontalCenter: parent.horizontalCenter
-            source: Style.logo
-            sourceSize.width: 160
-            sourceSize.height: 160
         }
 
         Text {

@@ -18,11 +18,49 @@ Window {
     Material.accent: Style.accent
     Material.primary: Style.primary
 
-    WindowMain {
+    // Read and made behind the splash, once that is to be seen: the first frame does not wait for it.
+    Loader {
+        id: mainWindow
+
+        function load() {
+            if (status === Loader.Null) {
+                setSource("WindowMain.qml", {
+                    inSetup: Qt.binding(() => setupWindow.inSetup)
+                });
+            }
+        }
+
         anchors.fill: parent
+        focus: true
         visible: !setupWindow.visible
-        inSetup: setupWindow.inSetup
-        onAddDevice: setupWindow.open()
+    }
+
+    Connections {
+        target: mainWindow.item
+
+        function onAddDevice() {
+            setupWindow.open();
+        }
+    }
+
+    Connections {
+        target: root
+        enabled: mainWindow.status === Loader.Null
+
+        // Only after the frame is done with: within it, it would not be on the screen yet.
+        function onFrameSwapped() {
+            Qt.callLater(mainWindow.load);
+        }
+    }
+
+    Connections {
+        target: deviceListModel
+
+        // Told once: also where no frame has been drawn yet.
+        function onAutomaticDeviceSelect() {
+            mainWindow.load();
+            mainWindow.item.selectAutomatically();
+        }
     }
 
     // Made when the first unit is set up: most starts never need it.

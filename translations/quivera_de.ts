@@ -407,10 +407,6 @@ Tippen Sie unten auf
         <translation>Softwareversion des Geräts</translation>
     </message>
     <message>
-        <source>App Version</source>
-        <translation>App-Version</translation>
-    </message>
-    <message>
         <source>Network</source>
         <translation>Netzwerk</translation>
     </message>
@@ -967,6 +963,37 @@ wird gesucht...</translation>
     <message>
         <source>Back</source>
         <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetProductCard</name>
+    <message>
+        <source>This App</source>
+        <translation>Diese App</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>App Version</source>
+        <translation>App-Version</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Urheberrecht</translation>
+    </message>
+    <message>
+        <source>© %1</source>
+        <translation>© %1</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>Parts of others in this app, and their licences</source>
+        <translation>Bestandteile anderer in dieser App und ihre Lizenzen</translation>
     </message>
 </context>
 <context>

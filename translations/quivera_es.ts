@@ -407,10 +407,6 @@ dispositivo Quivera. Pulse abajo
         <translation>Versión del software del dispositivo</translation>
     </message>
     <message>
-        <source>App Version</source>
-        <translation>Versión de la aplicación</translation>
-    </message>
-    <message>
         <source>Network</source>
         <translation>Red</translation>
     </message>
@@ -967,6 +963,37 @@ dispositivo Quivera...</translation>
     <message>
         <source>Back</source>
         <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetProductCard</name>
+    <message>
+        <source>This App</source>
+        <translation>Esta aplicación</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>App Version</source>
+        <translation>Versión de la aplicación</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Derechos de autor</translation>
+    </message>
+    <message>
+        <source>© %1</source>
+        <translation>© %1</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licencia</translation>
+    </message>
+    <message>
+        <source>Parts of others in this app, and their licences</source>
+        <translation>Componentes de terceros en esta aplicación y sus licencias</translation>
     </message>
 </context>
 <context>

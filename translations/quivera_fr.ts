@@ -407,10 +407,6 @@ Appuyez ci-dessous sur
         <translation>Version du logiciel de l’appareil</translation>
     </message>
     <message>
-        <source>App Version</source>
-        <translation>Version de l’application</translation>
-    </message>
-    <message>
         <source>Network</source>
         <translation>Réseau</translation>
     </message>
@@ -967,6 +963,37 @@ l’appareil Quivera...</translation>
     <message>
         <source>Back</source>
         <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetProductCard</name>
+    <message>
+        <source>This App</source>
+        <translation>Cette application</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>App Version</source>
+        <translation>Version de l’application</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Droits d’auteur</translation>
+    </message>
+    <message>
+        <source>© %1</source>
+        <translation>© %1</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Parts of others in this app, and their licences</source>
+        <translation>Composants de tiers dans cette application et leurs licences</translation>
     </message>
 </context>
 <context>

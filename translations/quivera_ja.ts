@@ -407,10 +407,6 @@ button below.</source>
         <translation>機器のソフトウェアのバージョン</translation>
     </message>
     <message>
-        <source>App Version</source>
-        <translation>アプリのバージョン</translation>
-    </message>
-    <message>
         <source>Network</source>
         <translation>ネットワーク</translation>
     </message>
@@ -967,6 +963,37 @@ Quivera device...</source>
     <message>
         <source>Back</source>
         <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetProductCard</name>
+    <message>
+        <source>This App</source>
+        <translation>このアプリ</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>App Version</source>
+        <translation>アプリのバージョン</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>著作権</translation>
+    </message>
+    <message>
+        <source>© %1</source>
+        <translation>© %1</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>ライセンス</translation>
+    </message>
+    <message>
+        <source>Parts of others in this app, and their licences</source>
+        <translation>このアプリに含まれる第三者のソフトウェアとそのライセンス</translation>
     </message>
 </context>
 <context>

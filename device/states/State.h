@@ -48,8 +48,10 @@ protected:
     bool areSettingsPending() const;
     TimeSource::TimePoint now() const { return m_manager.m_time.now(); }
 
-    const std::vector<std::shared_ptr<DeviceInfo>>& devices() const { return m_manager.m_devices; }
-    int positionOf(const std::shared_ptr<DeviceInfo>& unit) const { return m_manager.positionOf(unit); }
+    const std::vector<std::shared_ptr<DeviceInfo>>& devices() const { return m_manager.m_devices.units(); }
+    int positionOf(const std::shared_ptr<DeviceInfo>& unit) const {
+        return m_manager.m_devices.positionOf(unit);
+    }
     void remove(const std::shared_ptr<DeviceInfo>& unit) { m_manager.remove(unit); }
     void reportUpdated(int index) { emit m_manager.itemUpdated(index); }
     const std::shared_ptr<DeviceInfo>& selected() const { return m_manager.m_selected; }

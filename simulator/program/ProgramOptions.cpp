@@ -1,5 +1,7 @@
 #include "ProgramOptions.h"
 
+#include "Product.h"
+
 #include <boost/program_options.hpp>
 
 #include <limits>
@@ -25,8 +27,9 @@ std::size_t numberIn(const po::variables_map& values, const char* option, std::s
 
 po::options_description describe() {
     const auto number = [](long long standard) { return po::value<long long>()->default_value(standard); };
-    po::options_description options(
-        "kelm-simulator: simulated motion-seat controllers on this machine\n\nOptions");
+    po::options_description options("kelm-simulator " + std::string(QuiveraProduct::version) + ", part of " +
+                                    QuiveraProduct::name +
+                                    "\nSimulated motion-seat controllers on this machine\n\nOptions");
     auto add = options.add_options();
     add("help,h", "show this text and end");
     add("units", number(1), "how many units");

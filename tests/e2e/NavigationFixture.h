@@ -16,7 +16,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.window()));
         // The splash.
         QTest::mouseClick(window.window(), Qt::LeftButton, {}, QPoint(400, 5));
-        ASSERT_TRUE(stack("WindowMain"));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return stack("WindowMain") != nullptr; }));
     }
 
     QQuickItem* stack(const QString& windowName) const {

@@ -1,4 +1,9 @@
+#include "Product.h"
 #include "tests/e2e/NavigationFixture.h"
+
+#include <QRegularExpression>
+
+#include <iterator>
 
 namespace orvex::Test {
 namespace {
@@ -46,6 +51,36 @@ TEST_F(NavigationTest, RenamesAUnitWithTheKeyboardAlone) {
         "Main070DeviceAbout Main071DeviceRename Main070DeviceAbout Main071DeviceRename Main070DeviceAbout "
         "Main071DeviceRename Main070DeviceAbout Main040DeviceInfo Main010DeviceList");
     ASSERT_TRUE(shows({"Arm<b>chair (Local) | KELM"}));
+}
+
+TEST_F(NavigationTest, TellsAboutTheProgramAndWhoseWorkItIsMadeOf) {
+    const Unit unit = openOnlyUnit("Sofa");
+    press("rightButton");
+    ASSERT_TRUE(arrives("pageMain070DeviceAbout"));
+    const auto shown = [&](const char* rows) {
+        QStringList texts;
+        for (QQuickItem* row : window.items(window.window()->contentItem(), rows)) {
+            texts << row->property("label").toString() + ": " + row->property("text").toString();
+        }
+        return texts;
+    };
+    EXPECT_TRUE(shown("productRow").contains("Name: Quivera"));
+    const QStringList parts = shown("partRow").filter(QRegularExpression("^.+: .+\n© .+$"));
+    EXPECT_EQ(parts.size(), static_cast<int>(std::size(QuiveraProduct::parts)));
+    EXPECT_EQ(parts.filter(QRegularExpression("^Qt .*LGPL")).size(), 1);
+
+    window.window()->resize(400, 600);
+    QQuickItem* const area = window.item("scrollArea");
+    ASSERT_TRUE(area);
+    for (int i = 0; i < 10; ++i) {
+        key(Qt::Key_PageDown);
+    }
+    EXPECT_GT(area->property("contentY").toDouble(), 600) << "the keyboard alone reaches the last part";
+    EXPECT_TRUE(area->property("atYEnd").toBool());
+    for (int i = 0; i < 10; ++i) {
+        key(Qt::Key_PageUp);
+    }
+    EXPECT_TRUE(area->property("atYBeginning").toBool());
 }
 
 TEST_F(NavigationTest, ResetsTheNetworkOnlyWhenThatIsConfirmed) {

@@ -12,8 +12,9 @@ const QString local = QStringLiteral(" (Local)");
 TEST_F(WindowTest, TellsAPersonWithoutUnitsWhatToDo) {
     ASSERT_TRUE(window.window());
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.window()));
-    QQuickItem* const text = window.item(QStringLiteral("emptyText"));
-    ASSERT_TRUE(text);
+    QQuickItem* text = nullptr;
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return (text = window.item(QStringLiteral("emptyText"))) != nullptr; }));
     EXPECT_EQ(text->property("text"),
               QStringLiteral("No Quivera device found.\nTap the \"Add Quivera Device\"\nbutton below."));
     EXPECT_TRUE(window.rows().isEmpty());

@@ -56,7 +56,14 @@ protected:
         return all;
     }
 
-    RunningUnit unit{host};
+    /// One that stays, whatever network it is told to use.
+    static UnitOptions staying() {
+        UnitOptions options;
+        options.state = R"({"wifi":{"leaveTime":600000}})";
+        return options;
+    }
+
+    RunningUnit unit{host, "Sofa", staying()};
     std::shared_ptr<DeviceInfo> device = unit.device();
 
 private:

@@ -1,5 +1,6 @@
 // Runs the real program; POSIX only, as it ends it by signals.
 #include "Exchange.h"
+#include "Product.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -148,5 +149,5 @@ TEST(SimulatorProgram, RefusesWhatItDoesNotUnderstand) {
         EXPECT_EQ(program.end(), 2) << arguments[0];
     }
     Program help({"--help"});
-    EXPECT_NE(help.line().find("kelm-simulator"), std::string::npos);
+    EXPECT_EQ(help.line().rfind("kelm-simulator " + std::string(QuiveraProduct::version), 0), 0U);
 }

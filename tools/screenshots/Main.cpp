@@ -1,5 +1,5 @@
+#include "Product.h"
 #include "app/Translations.h"
-#include "app/Version.h"
 
 #include <Velto/ApplicationInfo.h>
 
@@ -14,7 +14,7 @@
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     using Velto::ApplicationInfo;
-    ApplicationInfo::Init("QuiveraApp", "QuiveraApp", "Orvex", orvex::programVersion, "",
+    ApplicationInfo::Init("QuiveraApp", "QuiveraApp", QuiveraProduct::vendor, QuiveraProduct::version, "",
                           ApplicationInfo::DataFolderType::User, argc, argv);
     QApplication application(argc, argv);
     orvex::installTranslations(application, QLocale::system().uiLanguages());

@@ -125,6 +125,8 @@ TEST_F(PageTour, NameTitlesAndModules) {
     press("rightButton");
     ASSERT_TRUE(arrives("pageMain070DeviceAbout"));
     shoot("about");
+    scrollTo("productCard");
+    shoot("about-app");
     press("rightButton");
     ASSERT_TRUE(arrives("pageMain071DeviceRename"));
     shoot("rename");

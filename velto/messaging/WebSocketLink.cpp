@@ -36,6 +36,9 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds pingPeriod{2};
 constexpr std::chrono::seconds longestSilence{5};
+/// A frame is not interrupted for a ping: while a large one goes out, the unit has the time to take it, too.
+/// Bytes per second, far below what any network that carries such frames does.
+constexpr std::size_t slowestUpload = 1048576;
 /// Bytes that count as a sign of life before their message is whole: what a peer that trickles never reaches
 /// within the longest silence.
 constexpr std::size_t livelyBytes = 4096;
@@ -172,13 +175,18 @@ private:
         m_unsettledBytes = 0;
     }
 
+    Clock::time_point silentFrom() const {
+        const std::size_t goingOut = m_frames.isWriting() ? m_outgoing.size() : 0;
+        return m_lastHeard + longestSilence + std::chrono::seconds(goingOut / slowestUpload);
+    }
+
     /// Pings when it is time, and gives the peer up when it was silent too long.
     void watch() {
-        wait(std::min(m_nextPing, m_lastHeard + longestSilence), [this] {
+        wait(std::min(m_nextPing, silentFrom()), [this] {
             if (m_state != State::Up)
                 return;
             const auto now = Clock::now();
-            if (now >= m_lastHeard + longestSilence) {
+            if (now >= silentFrom()) {
                 fail("the unit fell silent");
                 return;
             }
