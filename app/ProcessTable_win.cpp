@@ -8,6 +8,7 @@
 
 #include <array>
 #include <filesystem>
+#include <string>
 #include <type_traits>
 
 namespace orvex {
@@ -21,6 +22,24 @@ using ProcessHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, HandleClose
 
 ProcessHandle openProcess(ProcessId id, DWORD access) {
     return ProcessHandle(OpenProcess(access, FALSE, static_cast<DWORD>(id)));
+}
+
+// The longest path that the system knows.
+constexpr std::size_t longestPath = 32768;
+
+/// The file name as its folder has it. The system tells a process's name in the letters that it was started
+/// with, and "quivera.exe" in a shell starts the same program.
+std::wstring storedName(const std::wstring& path, const std::wstring& startedAs) {
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileW(path.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return startedAs;
+    }
+    FindClose(search);
+    // Another name for it, such as a short one, is another name.
+    const bool differsInCaseOnly =
+        CompareStringOrdinal(found.cFileName, -1, startedAs.c_str(), -1, TRUE) == CSTR_EQUAL;
+    return differsInCaseOnly ? found.cFileName : startedAs;
 }
 
 class SystemProcesses : public ProcessTable {
@@ -49,7 +68,10 @@ public:
         if (length == 0) {
             return unknownName;
         }
-        return std::filesystem::path(text.data(), text.data() + length).u8string();
+        std::wstring path(longestPath, L'\0');
+        path.resize(
+            GetModuleFileNameExW(process.get(), module, path.data(), static_cast<DWORD>(path.size())));
+        return std::filesystem::path(storedName(path, {text.data(), length})).u8string();
     }
 
     void end(ProcessId id) override {

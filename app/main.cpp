@@ -93,6 +93,10 @@ void publish(QQmlContext& context, Facade& facade) {
 int runApplication(int argc, char** argv, const std::string& hostName, Logging& logging) {
     initializeWebView();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    // As large as the user has set: rounded, a screen at 150 % would show everything twice as large.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // The end of the session is asked about first and may be called off by another program: nothing closes then.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Orvex"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("com.orvex.app"));

@@ -39,6 +39,8 @@ set(quivera_test_environment
   VELTO_DISCOVERY_INTERFACES=lo
   QT_QPA_PLATFORM=offscreen
   QT_QUICK_BACKEND=software
+  # Where the offscreen platform of Windows looks for fonts; elsewhere the system says where they are.
+  QT_QPA_FONTDIR=${PROJECT_SOURCE_DIR}/qml/fonts
   LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leak-suppressions.txt:print_suppressions=0
   TSAN_OPTIONS=ignore_noninstrumented_modules=1:suppressions=${PROJECT_SOURCE_DIR}/cmake/thread-suppressions.txt:print_suppressions=0)
 

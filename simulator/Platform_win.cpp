@@ -25,6 +25,11 @@ std::string utf8(const wchar_t* text) {
     return converted;
 }
 
+/// The loopback interface under the name that it is restricted to elsewhere too; its own is translated.
+std::string nameOf(const IP_ADAPTER_ADDRESSES& adapter) {
+    return adapter.IfType == IF_TYPE_SOFTWARE_LOOPBACK ? "lo" : utf8(adapter.FriendlyName);
+}
+
 std::uint32_t netmaskOf(unsigned int prefixLength) {
     return prefixLength == 0 ? 0 : 0xFFFFFFFFU << (32 - prefixLength);
 }
@@ -48,9 +53,11 @@ std::vector<Interface> interfaces() {
         if (adapter->OperStatus != IfOperStatusUp)
             continue;
         for (const auto* entry = adapter->FirstUnicastAddress; entry; entry = entry->Next) {
+            if (entry->Address.lpSockaddr->sa_family != AF_INET)
+                continue;
             const auto* const address = reinterpret_cast<const sockaddr_in*>(entry->Address.lpSockaddr);
-            found.push_back({utf8(adapter->FriendlyName), ntohl(address->sin_addr.s_addr),
-                             netmaskOf(entry->OnLinkPrefixLength)});
+            found.push_back(
+                {nameOf(*adapter), ntohl(address->sin_addr.s_addr), netmaskOf(entry->OnLinkPrefixLength)});
         }
     }
     return found;

@@ -169,9 +169,6 @@ protected:
         options.name = name;
         options.accessPoint = accessPoint;
         options.number = static_cast<std::size_t>(++count);
-        // Every unit has an address of its own: the program holds an address to the first key it saw there.
-        options.address =
-            "127.8." + std::to_string(QCoreApplication::applicationPid() % 250) + "." + std::to_string(count);
         auto unit = std::make_unique<Simulator::SimulatedUnit>(host, options);
         unit->start();
         return unit;

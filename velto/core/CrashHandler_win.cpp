@@ -63,16 +63,25 @@ std::int64_t secondsSince1970() noexcept {
     return static_cast<std::int64_t>(ticks / ticksPerSecond - secondsFrom1601To1970);
 }
 
+/// The file of a module, UTF-8; empty when it cannot be told.
+const char* fileOf(HMODULE module) noexcept {
+    // Longer ones are cut, which the system does by itself.
+    static std::array<wchar_t, 1024> path;
+    static std::array<char, 3 * path.size() + 1> text;
+    const DWORD length = GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
+    const int size = WideCharToMultiByte(CP_UTF8, 0, path.data(), static_cast<int>(length), text.data(),
+                                         static_cast<int>(text.size()) - 1, nullptr, nullptr);
+    text[static_cast<std::size_t>(size)] = '\0';
+    return text.data();
+}
+
 void writeFrame(ReportFile& file, void* address) noexcept {
-    static std::array<char, MAX_PATH> moduleName;
     HMODULE module = nullptr;
     CrashText line;
     if (GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
                                GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                            static_cast<LPCWSTR>(address), &module)) {
-        moduleName[0] = '\0';
-        GetModuleFileNameA(module, moduleName.data(), static_cast<DWORD>(moduleName.size()));
-        line << moduleName.data() << "(+";
+        line << fileOf(module) << "(+";
         line.hex(static_cast<std::uint64_t>(static_cast<char*>(address) - reinterpret_cast<char*>(module)))
             << ") ";
     }

@@ -13,9 +13,11 @@ namespace {
 using boost::asio::ip::make_address_v4;
 using boost::system::error_code;
 
-/// Errors that concern one datagram, not the socket: one of ours found nobody listening.
+/// Errors that concern one datagram, not the socket: one of ours found nobody listening, or expired under way
+/// (which Windows tells of).
 bool concernsOneDatagram(error_code error) {
-    return error == boost::asio::error::connection_reset || error == boost::asio::error::connection_refused;
+    return error == boost::asio::error::connection_reset || error == boost::asio::error::connection_refused ||
+           error == boost::asio::error::network_reset;
 }
 
 } // namespace

@@ -1,0 +1,20 @@
+# What Windows shows of a program's file (icon, version) and how it treats the program (manifest).
+set(QUIVERA_WINDOWS_RESOURCES ${PROJECT_SOURCE_DIR}/packaging/windows)
+set(QUIVERA_ICON ${QUIVERA_WINDOWS_RESOURCES}/quivera.ico)
+if(WIN32)
+  enable_language(RC)
+endif()
+
+# quivera_windows_resources(target description): nothing on other systems.
+function(quivera_windows_resources resource_target resource_description)
+  if(NOT WIN32)
+    return()
+  endif()
+  string(REPLACE "." "," resource_version_numbers ${QUIVERA_VERSION})
+  set(resource_manifest ${CMAKE_CURRENT_BINARY_DIR}/${resource_target}.manifest)
+  set(resource_script ${CMAKE_CURRENT_BINARY_DIR}/${resource_target}.rc)
+  configure_file(${QUIVERA_WINDOWS_RESOURCES}/program.manifest.in ${resource_manifest} @ONLY)
+  configure_file(${QUIVERA_WINDOWS_RESOURCES}/program.rc.in ${resource_script} @ONLY)
+  set_source_files_properties(${resource_script} PROPERTIES OBJECT_DEPENDS "${resource_manifest};${QUIVERA_ICON}")
+  target_sources(${resource_target} PRIVATE ${resource_script})
+endfunction()
