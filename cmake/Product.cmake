@@ -2,6 +2,7 @@
 # program, its about page, the packages, the licence texts beside them) takes it from here.
 set(QUIVERA_NAME "Quivera")
 set(QUIVERA_VENDOR "Orvex")
+set(QUIVERA_CONTACT "The Quivera companion authors <authors@quivera.invalid>") # no mailbox is behind it
 set(QUIVERA_VERSION 2.4.2.14129)
 set(QUIVERA_VERSION_DATE 2026-11-23)
 set(QUIVERA_SUMMARY "Desktop companion for networked haptic motion-seat controllers")

@@ -9,6 +9,8 @@ packages_run="qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-
   xvfb xauth imagemagick"
 packages_test="qml-module-qttest procps"
 packages_check="git clang clang-format clang-tidy libclang-rt-14-dev qtdeclarative5-dev-tools libbenchmark-dev"
+packages_deb="file librsvg2-bin desktop-file-utils appstream lintian"
+packages_deb_check="debootstrap util-linux iproute2 xvfb imagemagick"
 packages_windows="g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix mingw-w64-x86-64-dev googletest
   wine wine64 fonts-wine fonts-liberation2 xvfb xauth nsis xz-utils"
 packages_windows_kit="dpkg-dev perl python3"

@@ -1,0 +1,27 @@
+# Texts that every Debian system has, by their names in the SPDX list.
+set(common_licenses_Apache-2.0 Apache-2.0)
+set(common_licenses_LGPL-3.0-only LGPL-3)
+
+# write_copyright(file): whose work the package holds, with the licences or where these are to be found.
+function(write_copyright file)
+  file(READ ${PROJECT_SOURCE_DIR}/LICENSE own)
+  set(text "${QUIVERA_NAME}, ${QUIVERA_SUMMARY}\n\n${own}")
+  string(APPEND text "\n\nThe program is made with these parts of others. Some of their code or data is part of it, "
+    "the rest is in\npackages that it needs.\n")
+  foreach(part IN LISTS QUIVERA_PARTS)
+    string(REPLACE "|" ";" fields "${part}")
+    list(GET fields 0 name)
+    list(GET fields 1 license)
+    list(GET fields 2 page)
+    list(GET fields 3 source)
+    list(GET fields 4 holder)
+    string(APPEND text "\n----\n\n${name} (${page})\nCopyright (c) ${holder}\nLicence: ${license}\n\n")
+    if(DEFINED common_licenses_${license})
+      string(APPEND text "The text of this licence is in /usr/share/common-licenses/${common_licenses_${license}}.\n")
+    else()
+      file(READ ${PROJECT_SOURCE_DIR}/packaging/licenses/${source} licence)
+      string(APPEND text "${licence}")
+    endif()
+  endforeach()
+  file(WRITE ${file} "${text}")
+endfunction()
