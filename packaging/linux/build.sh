@@ -34,11 +34,17 @@ fi
 # Word splitting wanted: each is a list.
 require $packages_build $packages_run $packages_deb
 
+# Times inside the package, and of the resources in the program, are those of the version, so that the same sources make
+# the same package.
+date=$(sed -n 's/^set(QUIVERA_VERSION_DATE \(.*\))$/\1/p' cmake/Product.cmake)
+export SOURCE_DATE_EPOCH QT_RCC_SOURCE_DATE_OVERRIDE
+SOURCE_DATE_EPOCH=$(date -u -d "$date" +%s)
+QT_RCC_SOURCE_DATE_OVERRIDE=$SOURCE_DATE_EPOCH
+
 maintainer=
 [ -n "${DEBFULLNAME:-}" ] && [ -n "${DEBEMAIL:-}" ] && maintainer="$DEBFULLNAME <$DEBEMAIL>"
 
-# Debian's own flags: hardened, and no path of this machine in what is built. The warnings that they turn into errors
-# are left to the presets.
+# Debian's own flags: hardened, and no path of this machine in what is built.
 export DEB_BUILD_MAINT_OPTIONS='hardening=+all reproducible=+fixfilepath' DEB_CXXFLAGS_MAINT_STRIP='-g'
 flags=$(dpkg-buildflags --get CXXFLAGS)
 definitions=$(dpkg-buildflags --get CPPFLAGS)
@@ -48,10 +54,6 @@ cmake -S . -B "$folder" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREF
     -DCMAKE_CXX_FLAGS="$flags $definitions" -DCMAKE_EXE_LINKER_FLAGS="$linking" >/dev/null
 cmake --build "$folder"
 
-# Times inside the package are those of the version, so that the same sources make the same package.
-date=$(sed -n 's/^set(QUIVERA_VERSION_DATE \(.*\))$/\1/p' cmake/Product.cmake)
-export SOURCE_DATE_EPOCH
-SOURCE_DATE_EPOCH=$(date -u -d "$date" +%s)
 rm -f "$folder"/*.deb
 cpack --config "$folder/CPackConfig.cmake" >"$folder/cpack.log" 2>&1 || { cat "$folder/cpack.log" >&2 && exit 1; }
 package=$(echo "$folder"/*.deb)

@@ -50,8 +50,8 @@ inside() {
 
 # The program takes the place of the shell that calls this: for pipes and jobs.
 as_viewer() {
-    exec chroot --userspec=viewer:viewer "$root" env -i HOME=/home/viewer USER=viewer XDG_RUNTIME_DIR=/home/viewer/run LANG=C.UTF-8 \
-        PATH=/usr/bin:/bin DISPLAY="${DISPLAY:-}" VELTO_DISCOVERY_INTERFACES=lo "$@"
+    exec chroot --userspec=viewer:viewer "$root" env -i HOME=/home/viewer USER=viewer \
+        XDG_RUNTIME_DIR=/home/viewer/run LANG=C.UTF-8 PATH=/usr/bin:/bin DISPLAY="${DISPLAY:-}" VELTO_DISCOVERY_INTERFACES=lo "$@"
 }
 
 log_of() {
