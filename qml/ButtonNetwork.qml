@@ -49,6 +49,7 @@ AbstractButton {
             objectName: "networkName"
             Layout.fillWidth: true
             text: root.networkName
+            Accessible.ignored: true
             wrapMode: Text.NoWrap
             elide: Text.ElideRight
             maximumLineCount: 1

@@ -34,6 +34,7 @@ PageFrame {
         width: parent.width
         visible: text.length > 0
         text: root.notes
+        Accessible.ignored: true
         horizontalAlignment: Text.AlignHCenter
         color: Style.textSecondary
     }

@@ -45,7 +45,9 @@ Rectangle {
                 Accessible.role: Accessible.List
                 Accessible.name: qsTr("Quivera devices")
 
-                ScrollBar.vertical: ScrollBar {}
+                ScrollBar.vertical: ScrollBar {
+                    Accessible.ignored: true
+                }
 
                 delegate: ButtonDevice {
                     required property int index
@@ -68,6 +70,8 @@ Rectangle {
 
             Text {
                 objectName: "emptyText"
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 anchors.centerIn: parent
                 width: list.width
                 visible: list.count === 0

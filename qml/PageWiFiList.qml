@@ -84,7 +84,9 @@ Rectangle {
                 Accessible.role: Accessible.List
                 Accessible.name: qsTr("Wi-Fi networks")
 
-                ScrollBar.vertical: ScrollBar {}
+                ScrollBar.vertical: ScrollBar {
+                    Accessible.ignored: true
+                }
 
                 WidgetNotice {
                     anchors.centerIn: parent

@@ -29,7 +29,7 @@ T.ComboBox {
 
     Accessible.role: Accessible.ComboBox
     Accessible.name: root.accessibleName
-    Accessible.description: root.description
+    Accessible.description: [root.displayText, root.description].filter(text => text.length > 0).join(", ")
     Accessible.onPressAction: root.open()
 
     onEnabledChanged: {
@@ -59,6 +59,7 @@ T.ComboBox {
 
     contentItem: WidgetText {
         text: root.displayText
+        Accessible.ignored: true
         wrapMode: Text.NoWrap
         maximumLineCount: 1
         elide: Text.ElideRight
@@ -93,6 +94,7 @@ T.ComboBox {
 
         contentItem: WidgetText {
             text: choice.text
+            Accessible.ignored: true
             maximumLineCount: 2
             elide: Text.ElideRight
             verticalAlignment: Text.AlignVCenter

@@ -31,6 +31,7 @@ Column {
     WidgetText {
         width: parent.width
         text: root.hint
+        Accessible.ignored: true
         color: Style.textSecondary
         font.pixelSize: Style.fontSmall
         horizontalAlignment: Text.AlignHCenter

@@ -64,6 +64,7 @@ Item {
         width: root.nameWidth
         height: parent.height
         text: root.name
+        Accessible.ignored: true
         maximumLineCount: root.lines
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
@@ -79,6 +80,7 @@ Item {
         width: Math.max(0, root.width - x - Style.spaceSmall)
         height: parent.height
         text: root.value.trim()
+        Accessible.ignored: true
         maximumLineCount: root.lines
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter

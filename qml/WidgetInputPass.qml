@@ -16,7 +16,10 @@ WidgetInputText {
         objectName: "eyeButton"
         parent: root.field
         anchors.right: parent.right
+        anchors.rightMargin: Style.focusRingWidth
         anchors.verticalCenter: parent.verticalCenter
+        // Within the line's border.
+        height: parent.height - 2 * Style.focusRingWidth
         symbol: root.revealed ? Style.symbolHide : Style.symbolShow
         name: root.revealed ? qsTr("Hide the password") : qsTr("Show the password")
         onClicked: root.revealed = !root.revealed

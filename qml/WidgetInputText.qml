@@ -21,6 +21,7 @@ Column {
         width: root.width
         visible: text.length > 0
         text: root.label
+        Accessible.ignored: true
         color: Style.textSecondary
     }
 

@@ -43,6 +43,7 @@ ListView {
     }
 
     ScrollBar.vertical: ScrollBar {
+        Accessible.ignored: true
         minimumSize: 0.05
     }
 }

@@ -48,6 +48,7 @@ Column {
 
         WidgetText {
             id: offset
+            Accessible.ignored: true
             objectName: "mediaOffset"
             color: Style.textSecondary
             font.pixelSize: Style.fontSmall
@@ -72,6 +73,7 @@ Column {
 
         WidgetText {
             id: duration
+            Accessible.ignored: true
             color: Style.textSecondary
             font.pixelSize: Style.fontSmall
         }

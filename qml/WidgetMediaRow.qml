@@ -57,6 +57,7 @@ Item {
         y: Style.spaceSmall
         width: (root.isTable ? root.width - 3 * root.columnWidth : root.width) - 2 * Style.spaceSmall
         text: root.oneLineTitle
+        Accessible.ignored: true
         wrapMode: Text.NoWrap
         maximumLineCount: 1
         elide: Text.ElideRight
@@ -70,6 +71,7 @@ Item {
         anchors.bottomMargin: Style.spaceSmall
         width: titleText.width
         text: root.oneLine(root.furtherTexts.filter(entry => entry.length > 0).join(" · "))
+        Accessible.ignored: true
         wrapMode: Text.NoWrap
         maximumLineCount: 1
         elide: Text.ElideRight
@@ -89,6 +91,7 @@ Item {
             width: root.columnWidth - 2 * Style.spaceSmall
             height: root.height
             text: root.oneLine(modelData)
+            Accessible.ignored: true
             wrapMode: Text.NoWrap
             maximumLineCount: 1
             elide: Text.ElideRight

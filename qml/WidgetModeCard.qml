@@ -49,6 +49,7 @@ WidgetCard {
         objectName: "modeDescription"
         width: parent.width
         text: root.description
+        Accessible.ignored: true
         color: Style.textSecondary
     }
 
@@ -64,6 +65,7 @@ WidgetCard {
 
         WidgetText {
             id: transitionText
+            Accessible.ignored: true
             Layout.fillWidth: true
             text: qsTr("Please wait for mode change...")
             color: Style.attention

@@ -35,6 +35,7 @@ Column {
         width: parent.width - 2 * parent.padding
         visible: text.length > 0
         text: root.heading
+        Accessible.ignored: true
         horizontalAlignment: Text.AlignHCenter
         font.pixelSize: Style.fontTitle
         font.weight: Font.Medium
@@ -45,6 +46,7 @@ Column {
         width: parent.width - 2 * parent.padding
         visible: text.length > 0
         text: root.text
+        Accessible.ignored: true
         horizontalAlignment: Text.AlignHCenter
         color: Style.textSecondary
         lineHeight: 1.2

@@ -19,6 +19,7 @@ RowLayout {
 
     WidgetText {
         id: message
+        Accessible.ignored: true
         objectName: "refusal"
         Layout.fillWidth: true
         text: qsTr("The device did not take over this change. Please try again.")

@@ -41,7 +41,9 @@ Flickable {
         }
     }
 
-    ScrollBar.vertical: ScrollBar {}
+    ScrollBar.vertical: ScrollBar {
+        Accessible.ignored: true
+    }
 
     Item {
         id: holder

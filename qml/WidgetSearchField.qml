@@ -51,6 +51,7 @@ T.TextField {
         rightPadding: root.rightPadding
         visible: root.length === 0 && root.preeditText.length === 0
         text: root.placeholderText
+        Accessible.ignored: true
         wrapMode: Text.NoWrap
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter

@@ -35,6 +35,7 @@ WidgetSeatForm {
     health.onClicked: root.healthClicked()
 
     muted.label: qsTr("Mute")
+    muted.context: heading.text
     muted.unitValue: seatMuted
     muted.settling: settling
     muted.onEdited: root.mutedEdited(value)
@@ -58,6 +59,7 @@ WidgetSeatForm {
     vibration.onEdited: root.vibrationEdited(value)
 
     locked.label: qsTr("Keep motion and vibration together")
+    locked.context: heading.text
     locked.unitValue: controlsLocked
     locked.settling: settling
     locked.onEdited: root.lockedEdited(value)

@@ -29,6 +29,7 @@ Column {
         width: parent.width
         visible: text.length > 0
         text: root.label
+        Accessible.ignored: true
         opacity: root.enabled ? 1 : 0.5
     }
 

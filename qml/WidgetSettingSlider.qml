@@ -38,11 +38,13 @@ Column {
         WidgetText {
             Layout.fillWidth: true
             text: root.label
+            Accessible.ignored: true
         }
 
         WidgetText {
             objectName: "valueText"
             text: root.shownText
+            Accessible.ignored: true
             color: Style.textSecondary
         }
     }

@@ -8,6 +8,8 @@ Column {
 
     property alias label: labelText.text
     property string description
+    // What it belongs to, where the label alone does not tell those who are read the page.
+    property string context
     property bool unitValue: false
     property bool settling: false
 
@@ -29,6 +31,7 @@ Column {
 
         WidgetText {
             id: labelText
+            Accessible.ignored: true
             Layout.fillWidth: true
 
             MouseArea {
@@ -45,7 +48,7 @@ Column {
             objectName: "switch"
             checked: held.value
             accessibleName: root.label
-            description: root.description
+            description: root.description.length > 0 ? root.description : root.context
             onToggled: {
                 held.hold(checked);
                 root.edited(held.ownValue);
@@ -58,6 +61,7 @@ Column {
         width: parent.width
         visible: text.length > 0
         text: root.description
+        Accessible.ignored: true
         color: Style.textSecondary
         font.pixelSize: Style.fontSmall
     }

@@ -11,6 +11,10 @@ T.Slider {
     // The user lets go.
     signal committed
 
+    // By these names those who are read the page learn the range.
+    readonly property real minimumValue: from
+    readonly property real maximumValue: to
+
     function step(newValue) {
         edited(newValue);
         committed();

@@ -43,6 +43,7 @@ T.AbstractButton {
         WidgetText {
             Layout.fillWidth: true
             text: root.text
+            Accessible.ignored: true
             maximumLineCount: 2
             elide: Text.ElideRight
             color: root.isSorted ? Style.accent : Style.textSecondary

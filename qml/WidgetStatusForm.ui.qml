@@ -17,6 +17,7 @@ RowLayout {
 
     WidgetText {
         id: label
+        Accessible.ignored: true
         Layout.fillWidth: true
     }
 }
