@@ -39,7 +39,8 @@ export WINEPREFIX=$out/wine WINEARCH=win64 WINEDEBUG=-all LC_ALL=C.UTF-8 VELTO_D
 export WINEDLLOVERRIDES='mscoree,mshtml=;winedbg.exe=d;netsh.exe=n'
 export WINEQT_FORCE_STDERR_LOGGING=1
 
-setup=$(ls build/windows-package/Quivera-*-Setup.exe | tail -n 1)
+setup=$(find build/windows-package -maxdepth 1 -name "Quivera-*-Setup.exe" 2>/dev/null | tail -n 1)
+[ -n "$setup" ] || { echo "check.sh: there is no installer; run packaging/windows/build.sh first" >&2; exit 1; }
 installed='C:\Program Files\Orvex\Quivera für 席'
 drive=$WINEPREFIX/drive_c
 folder="$drive/Program Files/Orvex/Quivera für 席"

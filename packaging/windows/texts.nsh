@@ -10,7 +10,7 @@
 !macro quiveraText name english german spanish french japanese
     LangString ${name} 1033 "${english}"
     LangString ${name} 1031 "${german}"
-    LangString ${name} 3082 "${spanish}"
+    LangString ${name} 1034 "${spanish}"
     LangString ${name} 1036 "${french}"
     LangString ${name} 1041 "${japanese}"
 !macroend
