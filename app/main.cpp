@@ -79,6 +79,13 @@ void logStart() {
     }
 }
 
+/// Whoever reads the log sees by it that the program was not just killed.
+void logEnd() {
+    if (const auto logger = spdlog::get(programLoggerName)) {
+        logger->info("{} {} ended", Velto::ApplicationInfo::Name(), Velto::ApplicationInfo::Version());
+    }
+}
+
 void publish(QQmlContext& context, Facade& facade) {
     context.setContextProperty(QStringLiteral("api"), &facade);
     context.setContextProperty(QStringLiteral("deviceManager"), facade.deviceManager());
@@ -95,7 +102,8 @@ int runApplication(int argc, char** argv, const std::string& hostName, Logging& 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     // As large as the user has set: rounded, a screen at 150 % would show everything twice as large.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    // The end of the session is asked about first and may be called off by another program: nothing closes then.
+    // The end of the session is asked about first and may be called off by another program: nothing closes
+    // then.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Orvex"));
@@ -126,6 +134,7 @@ int runApplication(int argc, char** argv, const std::string& hostName, Logging& 
     facade.reset();
     reportComponentStep(ComponentStep::Suspend, components.Suspend());
     reportComponentStep(ComponentStep::Shutdown, components.Shutdown());
+    logEnd();
     logging.shutDown();
     return exitCode;
 }

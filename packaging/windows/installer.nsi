@@ -15,6 +15,7 @@ Unicode true
 !include "texts.nsh"
 
 !define PROGRAM "Quivera.exe"
+!define SIMULATOR "kelm-simulator.exe"
 !define RULE "${QUIVERA_NAME}: answers of units"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${QUIVERA_NAME}"
 
@@ -52,19 +53,32 @@ VIAddVersionKey /LANG=0 "LegalCopyright" "Copyright ${QUIVERA_COPYRIGHT}"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro quiveraLanguages
 
-; Pushes nothing; waits until the program in $INSTDIR does not run, or ends the installer.
-!macro closeProgramFunction un
-Function ${un}closeProgram
-    IfFileExists "$INSTDIR\${PROGRAM}" 0 closed
-    again:
-    ; A file that runs cannot be opened for writing.
-    ClearErrors
-    FileOpen $0 "$INSTDIR\${PROGRAM}" a
-    IfErrors runs
-    FileClose $0
-    closed:
-    Return
-    runs:
+; Whether a program in $INSTDIR runs: then $R1 is 1. A file that runs cannot be opened for writing.
+!macro noteWhetherRunning program
+    ${If} ${FileExists} "$INSTDIR\${program}"
+        ClearErrors
+        FileOpen $0 "$INSTDIR\${program}" a
+        ${If} ${Errors}
+            StrCpy $R1 1
+        ${Else}
+            FileClose $0
+        ${EndIf}
+    ${EndIf}
+!macroend
+
+; Returns when nothing in $INSTDIR runs any more, or ends the installer.
+!macro closeProgramsFunction un
+Function ${un}findRunning
+    StrCpy $R1 0
+    !insertmacro noteWhetherRunning "${PROGRAM}"
+    !insertmacro noteWhetherRunning "${SIMULATOR}"
+FunctionEnd
+
+Function ${un}closePrograms
+    Call ${un}findRunning
+    ${If} $R1 == 0
+        Return
+    ${EndIf}
     MessageBox MB_OKCANCEL|MB_ICONEXCLAMATION "$(textProgramRuns)" /SD IDOK IDOK close
     SetErrorLevel 1
     Quit
@@ -72,35 +86,29 @@ Function ${un}closeProgram
     ; First as a user would close its window, then by force.
     nsExec::Exec 'taskkill /IM ${PROGRAM}'
     Pop $0
-    StrCpy $1 0
-    ${Do}
+    ${For} $R2 1 40
+        ${If} $R2 == 20
+            nsExec::Exec 'taskkill /F /IM ${PROGRAM}'
+            Pop $0
+        ${EndIf}
+        ; It has no window.
+        ${If} $R2 == 1
+            nsExec::Exec 'taskkill /F /IM ${SIMULATOR}'
+            Pop $0
+        ${EndIf}
         Sleep 250
-        ClearErrors
-        FileOpen $0 "$INSTDIR\${PROGRAM}" a
-        ${IfNot} ${Errors}
-            FileClose $0
+        Call ${un}findRunning
+        ${If} $R1 == 0
             Return
         ${EndIf}
-        IntOp $1 $1 + 1
-    ${LoopUntil} $1 >= 20
-    nsExec::Exec 'taskkill /F /IM ${PROGRAM}'
-    Pop $0
-    Sleep 1000
-    ${If} ${Silent}
-        ClearErrors
-        FileOpen $0 "$INSTDIR\${PROGRAM}" a
-        ${If} ${Errors}
-            SetErrorLevel 1
-            Quit
-        ${EndIf}
-        FileClose $0
-        Return
-    ${EndIf}
-    Goto again
+    ${Next}
+    MessageBox MB_OK|MB_ICONSTOP "$(textProgramStays)" /SD IDOK
+    SetErrorLevel 1
+    Quit
 FunctionEnd
 !macroend
-!insertmacro closeProgramFunction ""
-!insertmacro closeProgramFunction "un."
+!insertmacro closeProgramsFunction ""
+!insertmacro closeProgramsFunction "un."
 
 ; Takes the version that is installed away, so that no file of it stays behind that this one no longer has. Its
 ; choice of the firewall rule has been read before; the user's data stays.
@@ -119,10 +127,10 @@ FunctionEnd
 Section "$(nameProgram)" sectionProgram
     SectionIn RO
     SetShellVarContext all
-    Call closeProgram
+    Call closePrograms
     Call removeEarlier
     SetOutPath "$INSTDIR"
-    File /r /x kelm-simulator.exe "${FOLDER}\*"
+    File /r /x ${SIMULATOR} "${FOLDER}\*"
     WriteUninstaller "$INSTDIR\uninstall.exe"
     CreateShortCut "$SMPROGRAMS\${QUIVERA_NAME}.lnk" "$INSTDIR\${PROGRAM}" "" "" "" "" "" "${QUIVERA_SUMMARY}"
 
@@ -141,7 +149,7 @@ SectionEnd
 
 Section "$(nameSimulator)" sectionSimulator
     SetOutPath "$INSTDIR"
-    File "${FOLDER}\kelm-simulator.exe"
+    File "${FOLDER}\${SIMULATOR}"
 SectionEnd
 
 ; Units answer from ports of their own to the port that the program asked from; both are other ones each time. They are
@@ -184,7 +192,7 @@ Function .onInit
         ${If} $1 != 1
             !insertmacro UnselectSection ${sectionFirewall}
         ${EndIf}
-        ${IfNot} ${FileExists} "$0\kelm-simulator.exe"
+        ${IfNot} ${FileExists} "$0\${SIMULATOR}"
             !insertmacro UnselectSection ${sectionSimulator}
         ${EndIf}
     ${EndIf}
@@ -199,7 +207,7 @@ FunctionEnd
 Section "un.$(nameProgram)" unSectionProgram
     SectionIn RO
     SetShellVarContext all
-    Call un.closeProgram
+    Call un.closePrograms
     ReadRegDWORD $0 HKLM "${UNINSTALL_KEY}" "FirewallRule"
     ${If} $0 == 1
         nsExec::ExecToLog 'netsh advfirewall firewall delete rule name="${RULE}" program="$INSTDIR\${PROGRAM}"'
@@ -224,6 +232,9 @@ Section "un.$(nameData)" unSectionData
     ; Kept there by Qt, under the name that the program has in it.
     RMDir /r "$LOCALAPPDATA\${QUIVERA_VENDOR}\cache"
     RMDir "$LOCALAPPDATA\${QUIVERA_VENDOR}"
+    ; Qt's programs share this one; another of them just fills it again.
+    RMDir /r "$LOCALAPPDATA\cache\qtshadercache-x86_64-little_endian-llp64"
+    RMDir "$LOCALAPPDATA\cache"
 SectionEnd
 
 !insertmacro MUI_UNFUNCTION_DESCRIPTION_BEGIN

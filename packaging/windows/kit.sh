@@ -16,7 +16,7 @@ find_windows_kit() {
         # Under another name until it is whole. The date of unpacking, or it would be unpacked each time.
         rm -rf build/windows-sdk.part
         mkdir build/windows-sdk.part
-        tar -xJmf "$windows_kit_packed" -C build/windows-sdk.part --strip-components=1
+        tar -xJmf "$windows_kit_packed" -C build/windows-sdk.part --strip-components=1 || return 1
         rm -rf "$made"
         mv build/windows-sdk.part "$made"
     fi

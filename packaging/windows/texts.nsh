@@ -10,7 +10,7 @@
 !macro quiveraText name english german spanish french japanese
     LangString ${name} 1033 "${english}"
     LangString ${name} 1031 "${german}"
-    LangString ${name} 3082 "${spanish}"
+    LangString ${name} 1034 "${spanish}"
     LangString ${name} 1036 "${french}"
     LangString ${name} 1041 "${japanese}"
 !macroend
@@ -54,6 +54,11 @@
     "${QUIVERA_NAME} se está ejecutando. Aceptar lo cierra." \
     "${QUIVERA_NAME} est en cours d’exécution. OK le ferme." \
     "${QUIVERA_NAME} が実行中です。OK を押すと終了します。"
+!insertmacro quiveraText textProgramStays "${QUIVERA_NAME} could not be closed. Close it and try again." \
+    "${QUIVERA_NAME} konnte nicht geschlossen werden. Schließen Sie es und versuchen Sie es erneut." \
+    "No se pudo cerrar ${QUIVERA_NAME}. Ciérrelo e inténtelo de nuevo." \
+    "${QUIVERA_NAME} n’a pas pu être fermé. Fermez-le et réessayez." \
+    "${QUIVERA_NAME} を終了できませんでした。終了してからもう一度お試しください。"
 !insertmacro quiveraText textFirewallFailed \
     "The firewall rule could not be added. If units are not found, allow ${QUIVERA_NAME} in the firewall's settings." \
     "Die Firewallregel konnte nicht angelegt werden. Werden Geräte nicht gefunden, lassen Sie ${QUIVERA_NAME} in den \

@@ -1,5 +1,7 @@
 #include "tests/e2e/ShownWindow.h"
 
+#include <QSignalSpy>
+
 namespace orvex::Test {
 namespace {
 
@@ -21,7 +23,13 @@ protected:
             return false;
         }
         QTest::mouseClick(window.window(), Qt::LeftButton, {}, {5, 5}); // away with the splash
-        return QTest::qWaitFor([this] { return item("modeChoice") != nullptr; }, 60000);
+        return QTest::qWaitFor([this] { return item("modeChoice") != nullptr; }, 60000) && isDrawn();
+    }
+    /// What has just been shown has its place once it is drawn.
+    bool isDrawn() const {
+        QSignalSpy frames(window.window(), &QQuickWindow::frameSwapped);
+        window.window()->update();
+        return frames.wait(bound);
     }
 
     QQuickItem* item(const QString& name) const { return window.item(name); }
@@ -49,6 +57,8 @@ protected:
         QTest::mouseClick(window.window(), Qt::LeftButton, {}, placeOf(control));
     }
     void choose(QQuickItem* comboBox, int index) const {
+        // Not over the list that opens: it would choose by itself.
+        QTest::mouseMove(window.window(), {1, 1});
         press(comboBox, Qt::Key_Return);
         const int steps = index - comboBox->property("currentIndex").toInt();
         for (int step = 0; step < std::abs(steps); ++step) {

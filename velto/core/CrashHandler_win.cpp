@@ -78,9 +78,10 @@ const char* fileOf(HMODULE module) noexcept {
 void writeFrame(ReportFile& file, void* address) noexcept {
     HMODULE module = nullptr;
     CrashText line;
-    if (GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
-                               GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                           static_cast<LPCWSTR>(address), &module)) {
+    // Asked for the module at no address, the system names the program itself.
+    if (address != nullptr && GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                                                     GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                                                 static_cast<LPCWSTR>(address), &module)) {
         line << fileOf(module) << "(+";
         line.hex(static_cast<std::uint64_t>(static_cast<char*>(address) - reinterpret_cast<char*>(module)))
             << ") ";
