@@ -12,9 +12,9 @@ packages_check="git clang clang-format clang-tidy libclang-rt-14-dev qtdeclarati
 packages_deb="file librsvg2-bin desktop-file-utils appstream lintian"
 packages_deb_check="debootstrap util-linux iproute2 xvfb imagemagick"
 packages_windows="g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix mingw-w64-x86-64-dev googletest
-  wine wine64 fonts-wine fonts-liberation2 xvfb xauth nsis xz-utils"
+  wine wine64 fonts-wine fonts-liberation2 xvfb xauth nsis xz-utils iproute2"
 packages_windows_kit="dpkg-dev perl python3"
-packages_windows_check="xdotool imagemagick python3 file iproute2"
+packages_windows_check="xdotool imagemagick python3 file"
 
 # require PACKAGE…: installs those that are missing; needs root (or sudo) only then.
 require() {

@@ -33,9 +33,14 @@ say() { echo "build-kit.sh: $*"; }
 
 # quietly NAME COMMAND…: what it prints is only of interest when it fails.
 quietly() {
-    local name=$1
+    local name=$1 status
     shift
-    "$@" >"$work/logs/$name.log" 2>&1 && return
+    # Not as a condition: inside one the shell would not stop at the first error.
+    set +e
+    (set -e; "$@") >"$work/logs/$name.log" 2>&1
+    status=$?
+    set -e
+    [ "$status" -ne 0 ] || return 0
     tail -n 40 "$work/logs/$name.log" >&2
     say "$name failed; all it said is in $work/logs/$name.log" >&2
     return 1
@@ -44,10 +49,8 @@ quietly() {
 # The machine's package lists may leave sources out: a list of our own, from the same mirror, kept apart.
 fetch_sources() {
     local mirror lists=$work/apt package
-    mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Suite: stable|oldstable|bookworm' \
-        2>/dev/null | grep -m1 /debian/ || true)
-    [ -n "$mirror" ] || mirror=$(grep -rhoE 'https?://[^ ]+/debian/?' /etc/apt/sources.list /etc/apt/sources.list.d \
-        2>/dev/null | grep -m1 . || echo http://deb.debian.org/debian)
+    mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' | grep -m1 '/debian/*$' || true)
+    [ -n "$mirror" ] || mirror=http://deb.debian.org/debian
     mkdir -p "$lists/lists/partial"
     echo "deb-src $mirror bookworm main" >"$lists/sources.list"
     local apt=(apt-get -o "Dir::Etc::SourceList=$lists/sources.list" -o Dir::Etc::SourceParts=/dev/null
@@ -89,7 +92,7 @@ build_qt_module() {
     mkdir -p "$work/$1"
     cd "$work/$1"
     shift
-    "$kit/qt-host/bin/qmake" "$source" -- "$@"
+    "$kit/qt-host/bin/qmake" "$source" ${1:+-- "$@"}
     make -j"$jobs"
     make install
 }

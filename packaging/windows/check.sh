@@ -18,18 +18,10 @@ TEXT
 fi
 
 . tools/dependencies.sh
+. packaging/windows/kit.sh
 require $packages_windows $packages_windows_check
 
-if [ -z "${quivera_check_alone:-}" ]; then
-    export quivera_check_alone=yes
-    # Where that is allowed, on a loopback interface that nobody else has.
-    if unshare -n true 2>/dev/null; then
-        exec unshare -n bash -c 'ip link set lo up; exec "$0"' "$0"
-    fi
-fi
-if [ -z "${quivera_check_display:-}" ]; then
-    exec env quivera_check_display=yes xvfb-run -a -s '-screen 0 1000x1000x24 -nolisten tcp' "$0"
-fi
+run_apart "$0"
 
 out=$PWD/build/windows-check
 rm -rf "$out"

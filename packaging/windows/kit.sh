@@ -23,3 +23,15 @@ find_windows_kit() {
     [ -f "$made/mingw-toolchain.cmake" ] || return 1
     echo "$made"
 }
+
+# run_apart SCRIPT ARGUMENT…: starts the script that calls it anew in a virtual display and, where that is allowed, with
+# a loopback interface that nobody else has.
+run_apart() {
+    [ -z "${quivera_apart:-}" ] || return 0
+    export quivera_apart=yes
+    local command=(xvfb-run -a -s '-screen 0 1280x1000x24 -nolisten tcp' "$@")
+    if unshare -n true 2>/dev/null; then
+        exec unshare -n bash -c 'ip link set lo up; exec "$@"' bash "${command[@]}"
+    fi
+    exec "${command[@]}"
+}
