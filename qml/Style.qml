@@ -59,6 +59,7 @@ QtObject {
 
     readonly property int windowWidth: 750
     readonly property int windowHeight: 900
+    readonly property int windowFrame: 40
 
     readonly property int tipDelay: 600 // ms
 

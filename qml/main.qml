@@ -9,7 +9,8 @@ Window {
     readonly property bool onWindows: Qt.platform.os === "windows"
 
     width: onWindows ? Style.windowWidth : Screen.desktopAvailableWidth
-    height: onWindows ? Style.windowHeight : Screen.desktopAvailableHeight
+    // A scaled screen may offer less than the window wants, and the frame around it takes its part.
+    height: onWindows ? Math.min(Style.windowHeight, Screen.desktopAvailableHeight - Style.windowFrame) : Screen.desktopAvailableHeight
     visible: true
     title: qsTr("Orvex Quivera")
     color: Style.background
