@@ -28,6 +28,6 @@ export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all VELTO_DISCOVERY_INTERFACES=lo
 [ -f "$WINEPREFIX/system.reg" ] || packaging/windows/kit/wine-prefix >/dev/null 2>&1
 trap 'wineserver -k 2>/dev/null || true' EXIT
 # A program that runs all the while: Wine's services are started once.
-tail -f /dev/null | wine cmd >/dev/null 2>&1 &
+{ tail -f /dev/null | wine cmd; } >/dev/null 2>&1 </dev/null &
 PATH=$PWD/packaging/windows/tested:$PATH
 ctest --test-dir build/windows --output-on-failure -j2 "$@"
