@@ -2,6 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import "."
+import "Texts.js" as Texts
 
 // One unit in the list: product image, name, product and what needs doing.
 AbstractButton {
@@ -22,7 +23,7 @@ AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: root.displayName
-    Accessible.description: root.statusText.length > 0 ? qsTr("%1, %2").arg(root.productName).arg(root.statusText) : root.productName
+    Accessible.description: root.statusText.length > 0 ? Texts.fill(qsTr("%1, %2"), root.productName, root.statusText) : root.productName
 
     Keys.onReturnPressed: event => pressedByKey(event)
     Keys.onEnterPressed: event => pressedByKey(event)

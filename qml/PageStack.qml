@@ -1,7 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import QtQuick.Window 2.15
-import "."
 
 // Pages by their id: each is made when it is first shown, and kept. A step is taken at once, without a transition, so
 // that there is no time in which neither the old nor the new page is the one that is shown.
@@ -15,12 +14,13 @@ T.StackView {
     property var pages: ({})
 
     readonly property string currentId: currentItem ? currentItem.objectName : ""
-    // Whether a step was taken so lately that a click in the same place may be the rest of a double click.
-    readonly property bool isSettling: settling.running
 
     property var madePages: ({})
     property var components: ({})
     property var formerFocus: ({})
+
+    // Another page may stand now where the last one was.
+    signal stepped
 
     function page(id) {
         if (!madePages[id]) {
@@ -83,7 +83,7 @@ T.StackView {
     }
 
     function focusPage(item) {
-        echo.guard();
+        root.stepped();
         const target = item && item.visible && item.enabled ? item : currentItem;
         target.forceActiveFocus(Qt.OtherFocusReason);
     }
@@ -98,42 +98,4 @@ T.StackView {
     focus: true
     Keys.onEscapePressed: event => goBack(event)
     Keys.onBackPressed: event => goBack(event)
-
-    // The second click of a double click belongs to the page that the first one left: it must not press what now stands
-    // in the same place.
-    Item {
-        id: echo
-
-        property point lastPress: Qt.point(-width, -height)
-
-        function guard() {
-            swallow.x = lastPress.x - swallow.width / 2;
-            swallow.y = lastPress.y - swallow.height / 2;
-            settling.restart();
-        }
-
-        objectName: "echo"
-        anchors.fill: parent
-        z: 1
-
-        PointHandler {
-            onActiveChanged: {
-                if (active) {
-                    echo.lastPress = point.position;
-                }
-            }
-        }
-
-        MouseArea {
-            id: swallow
-            width: 2 * Style.touchTarget
-            height: 2 * Style.touchTarget
-            enabled: settling.running
-        }
-
-        Timer {
-            id: settling
-            interval: Qt.styleHints.mouseDoubleClickInterval
-        }
-    }
 }

@@ -35,6 +35,15 @@ Rectangle {
         }
     }
 
+    function choose(name) {
+        for (let i = 0; i < networks.length; ++i) {
+            if (networks[i].name === name) {
+                root.wiFiClicked(i);
+                return;
+            }
+        }
+    }
+
     color: Style.background
     onNetworksChanged: showNetworks()
 
@@ -97,14 +106,21 @@ Rectangle {
                 }
 
                 delegate: ButtonNetwork {
-                    required property int index
                     required property var model
+                    // The network that the finger went down on: the row may show another one when it is lifted.
+                    property string pressedName
 
                     objectName: "networkRow"
                     width: list.width
                     networkName: model.name
                     active: model.active
-                    onClicked: root.wiFiClicked(index)
+                    onPressed: pressedName = networkName
+                    onCanceled: pressedName = ""
+                    onClicked: {
+                        const name = pressedName || networkName;
+                        pressedName = "";
+                        root.choose(name);
+                    }
                 }
             }
         }

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import "."
+import "Texts.js" as Texts
 
 // One line of what the unit's modules report. Made for lists of ten thousand: a fixed height, no layouts.
 Item {
@@ -21,7 +22,7 @@ Item {
 
     height: isNarrow ? Style.listRowHeight : Style.detailRowHeight
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.value.length > 0 ? qsTr("%1: %2").arg(root.name).arg(root.value) : root.name
+    Accessible.name: root.value.length > 0 ? Texts.fill(qsTr("%1: %2"), root.name, root.value) : root.name
     Accessible.description: root.look.meaning
 
     WidgetWholeText {

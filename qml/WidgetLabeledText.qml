@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import "."
+import "Texts.js" as Texts
 
 // A value below its name. One that is worth it can be copied.
 Item {
@@ -16,7 +17,7 @@ Item {
     implicitWidth: Math.max(name.implicitWidth, value.implicitWidth) + texts.anchors.leftMargin + texts.anchors.rightMargin
     implicitHeight: Math.max(texts.height + 2 * Style.spaceTiny, canCopy ? Style.touchTarget : 0)
     Accessible.role: Accessible.StaticText
-    Accessible.name: qsTr("%1: %2").arg(root.label).arg(root.text)
+    Accessible.name: Texts.fill(qsTr("%1: %2"), root.label, root.text)
 
     Image {
         anchors.verticalCenter: parent.verticalCenter

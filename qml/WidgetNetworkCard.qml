@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import "."
+import "Texts.js" as Texts
 
 // Whether and how the unit is connected.
 WidgetCard {
@@ -39,7 +40,7 @@ WidgetCard {
             required property var modelData
 
             width: parent.width
-            text: qsTr("%1: %2").arg(modelData.name).arg(modelData.ip)
+            text: Texts.fill(qsTr("%1: %2"), modelData.name, modelData.ip)
             maximumLineCount: 2
             elide: Text.ElideRight
             color: Style.textSecondary

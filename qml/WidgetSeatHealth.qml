@@ -2,6 +2,7 @@ import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import QtQuick.Templates 2.15 as T
 import "."
+import "Texts.js" as Texts
 
 // How a seat is, which leads to what its parts report.
 T.AbstractButton {
@@ -19,11 +20,17 @@ T.AbstractButton {
     hoverEnabled: true
 
     Accessible.role: Accessible.Button
-    Accessible.name: qsTr("%1: %2").arg(root.seatName).arg(root.statusText)
+    Accessible.name: Texts.fill(qsTr("%1: %2"), root.seatName, root.statusText)
     Accessible.description: qsTr("Shows the detailed status")
 
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onReturnPressed: event => pressedByKey(event)
+    Keys.onEnterPressed: event => pressedByKey(event)
+
+    function pressedByKey(event) {
+        if (!event.isAutoRepeat) {
+            root.clicked();
+        }
+    }
 
     background: Rectangle {
         radius: Style.radius

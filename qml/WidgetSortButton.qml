@@ -27,8 +27,14 @@ T.AbstractButton {
     }
     Accessible.onPressAction: clicked()
 
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onReturnPressed: event => pressedByKey(event)
+    Keys.onEnterPressed: event => pressedByKey(event)
+
+    function pressedByKey(event) {
+        if (!event.isAutoRepeat) {
+            root.clicked();
+        }
+    }
 
     background: Rectangle {
         radius: Style.radius

@@ -69,7 +69,8 @@ WindowSetupForm {
         };
     }
 
-    pageTitle.title: currDevice.name || qsTr("Add Quivera Device")
+    // While the unit is being searched for, the one that was opened last is still selected.
+    pageTitle.title: stack.currentId === "pageSetup010WaitForDevice" || currDevice.name.length === 0 ? qsTr("Add Quivera Device") : currDevice.name
     pageTitle.details: qsTr("NETWORK SETUP")
     pageTitle.canGoBack: inSetup
     pageTitle.onButtonBackClicked: root.goBack()

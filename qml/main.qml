@@ -92,7 +92,29 @@ Window {
         }
     }
 
+    Connections {
+        target: mainWindow.item ? mainWindow.item.stack : null
+
+        function onStepped() {
+            pressGuard.guard();
+        }
+    }
+
+    Connections {
+        target: setupWindow.item ? setupWindow.item.stack : null
+
+        function onStepped() {
+            pressGuard.guard();
+        }
+    }
+
     WindowSplash {
+        anchors.fill: parent
+        onVisibleChanged: pressGuard.guard()
+    }
+
+    WidgetPressGuard {
+        id: pressGuard
         anchors.fill: parent
     }
 }

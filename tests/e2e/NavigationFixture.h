@@ -45,31 +45,38 @@ protected:
         return here;
     }
 
+    /// Whether a click may still be taken for the rest of a double click.
+    bool isSettling() const {
+        return window.window()->findChild<QObject*>("pressGuard")->property("isSettling").toBool();
+    }
+
     /// The visible item of that name, as soon as it can be pressed; none after 30 s.
     QQuickItem* awaitItem(const QString& name) const {
         QQuickItem* found = nullptr;
         const bool here = QTest::qWaitFor(
             [&] {
                 found = window.item(name);
-                return found && found->isEnabled() && found->width() > 0 &&
-                       !shownStack()->property("isSettling").toBool();
+                return found && found->isEnabled() && found->width() > 0 && !isSettling();
             },
             30000);
         EXPECT_TRUE(here) << name.toStdString() << " on " << shownPage();
         return here ? found : nullptr;
     }
 
+    static QRectF placeOf(QQuickItem* item) {
+        return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+    }
+
     void pressAt(QQuickItem* item) const {
         if (item) {
-            const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-            QTest::mouseClick(window.window(), Qt::LeftButton, {}, centre.toPoint());
+            QTest::mouseClick(window.window(), Qt::LeftButton, {}, placeOf(item).center().toPoint());
         }
     }
 
     void press(const QString& name) const { pressAt(awaitItem(name)); }
 
-    /// Presses the Wi-Fi network of that name.
-    void pressNetwork(const QString& network) const {
+    /// The row of the Wi-Fi network of that name, as soon as it can be pressed.
+    QQuickItem* awaitNetwork(const QString& network) const {
         QQuickItem* row = nullptr;
         EXPECT_TRUE(QTest::qWaitFor(
             [&] {
@@ -78,11 +85,14 @@ protected:
                         row = item;
                     }
                 }
-                return row && !shownStack()->property("isSettling").toBool();
+                return row && !isSettling();
             },
-            30000));
-        pressAt(row);
+            30000))
+            << network.toStdString();
+        return row;
     }
+
+    void pressNetwork(const QString& network) const { pressAt(awaitNetwork(network)); }
 
     void key(int code) const { QTest::keyClick(window.window(), static_cast<Qt::Key>(code)); }
     void type(const QString& text) const {

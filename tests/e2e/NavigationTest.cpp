@@ -155,5 +155,54 @@ TEST_F(NavigationTest, ReturnsToTheUnitsPageWhenTheUnitGoesWhileItsNameIsTyped) 
     EXPECT_EQ(unit->counters().requestsOf("SetKelmName"), 0U);
 }
 
+TEST_F(NavigationTest, EachPageThatNeedsTheUnitClosesWhenTheUnitGoes) {
+    const Unit unit = openOnlyUnit("Sofa");
+    const std::string present = unit->state().network.ssid;
+    const auto sees = [&](const std::vector<std::string>& networks) {
+        unit->changeState([&](Simulator::UnitState& state) {
+            state.wifi.seen.clear();
+            for (const std::string& network : networks) {
+                state.wifi.seen.push_back({network, ""});
+            }
+        });
+    };
+    struct Way {
+        std::vector<std::string> networks; // that the unit sees
+        QStringList buttons;
+        QString network; // that is chosen
+        const char* page;
+    };
+    const Way ways[] = {{{}, {"infoIcon", "setUpButton"}, {}, "pageMain060WiFiWaitList"},
+                        {{}, {"infoIcon"}, {}, "pageMain050NetworkStatus"},
+                        {{}, {"infoIcon", "resetButton"}, {}, "pageMain051NetworkReset"},
+                        {{}, {"rightButton"}, {}, "pageMain070DeviceAbout"},
+                        {{}, {"seatHealth"}, {}, "pageMain076DetailedStatus"},
+                        {{}, {"mediaListButton"}, {}, "pageMain080MediaList"},
+                        {{"Attic"}, {"infoIcon", "setUpButton"}, {}, "pageMain061WiFiList"},
+                        {{"Attic"}, {"infoIcon", "setUpButton"}, "Attic", "pageMain062WiFiPassword"},
+                        {{present},
+                         {"infoIcon", "setUpButton"},
+                         QString::fromStdString(present),
+                         "pageMain065WiFiSameNetwork"}};
+    for (const Way& way : ways) {
+        SCOPED_TRACE(way.page);
+        sees(way.networks);
+        for (const QString& button : way.buttons) {
+            press(button);
+        }
+        if (!way.network.isEmpty()) {
+            pressNetwork(way.network);
+        }
+        ASSERT_TRUE(arrives(way.page));
+        unit->stop();
+        ASSERT_TRUE(arrives("pageMain040DeviceInfo"));
+        unit->start();
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&] { return window.item("onlineStatus")->property("text") == QStringLiteral("Device Online"); },
+            60000));
+    }
+    EXPECT_EQ(unit->counters().requestsOf("SetWifiSetting"), 0U);
+}
+
 } // namespace
 } // namespace orvex::Test

@@ -91,6 +91,71 @@ TEST_F(WiFiTest, GivesUpWaitingOnlyAfterTheUserCameBackToTheProgram) {
     ASSERT_TRUE(arrives("pageMain040DeviceInfo")) << "the unit is gone";
 }
 
+TEST_F(WiFiTest, ChoosesTheNetworkThatWasPressedAndGoesBackFromEachStep) {
+    const Unit unit = openOnlyUnit("Sofa");
+    unit->changeState([](Simulator::UnitState& state) { state.wifi.seen.clear(); });
+    press("infoIcon");
+    press("setUpButton");
+    ASSERT_TRUE(arrives("pageMain060WiFiWaitList"));
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(arrives("pageMain050NetworkStatus"));
+    const auto read = unit->counters().requestsOf("GetNetworkState");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return unit->counters().requestsOf("GetNetworkState") > read; }, 30000))
+        << "the page that is shown again is kept fresh";
+    press("resetButton");
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(arrives("pageMain050NetworkStatus"));
+
+    prepare(unit);
+    press("setUpButton");
+    QQuickItem* const row = awaitNetwork("Attic");
+    ASSERT_TRUE(row);
+    const QPoint place = placeOf(row).center().toPoint();
+    QTest::mousePress(window.window(), Qt::LeftButton, {}, place);
+    unit->changeState([](Simulator::UnitState& state) {
+        state.wifi.seen.insert(state.wifi.seen.begin(), {"Aardvark", ""});
+    });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return row->property("networkName") != "Attic"; }, 30000));
+    QTest::mouseRelease(window.window(), Qt::LeftButton, {}, place);
+    ASSERT_TRUE(arrives("pageMain062WiFiPassword"));
+    EXPECT_EQ(window.item("pageMain062WiFiPassword")->property("wiFiName"), QStringLiteral("Attic"));
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(arrives("pageMain061WiFiList"));
+    pressNetwork("Aardvark");
+    ASSERT_TRUE(arrives("pageMain062WiFiPassword"));
+    press("nextButton");
+    ASSERT_TRUE(arrives("pageMain064WiFiWaitConnect"));
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(arrives("pageMain010DeviceList"));
+}
+
+TEST_F(WiFiTest, TakesADoubleClickThatOpensTheSetUpForOneStep) {
+    const Unit unit = makeUnit("ruvello", "Fresh", true);
+    prepare(unit);
+    const Unit other = makeUnit("hub", "Hub");
+    ASSERT_TRUE(shows({"Fresh (Local) | Ruvello | Network Setup Required", "Hub (Local) | Quivera Hub"}));
+    press("deviceRow");
+    ASSERT_TRUE(arrives("pageSetup030WiFiList"));
+    ASSERT_TRUE(awaitNetwork("Attic"));
+    QList<QRectF> networks;
+    for (QQuickItem* row : ShownWindow::items(window.window()->contentItem(), "networkRow")) {
+        networks << placeOf(row);
+    }
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(arrives("pageMain010DeviceList"));
+    QRectF both;
+    const QRectF device = placeOf(awaitItem("deviceRow"));
+    for (const QRectF& network : networks) {
+        both = both.isEmpty() ? network & device : both;
+    }
+    ASSERT_FALSE(both.isEmpty()) << "nothing stands where the second click goes";
+    steps();
+    QTest::mouseClick(window.window(), Qt::LeftButton, {}, both.center().toPoint());
+    QTest::mouseClick(window.window(), Qt::LeftButton, {}, both.center().toPoint());
+    ASSERT_TRUE(awaitNetwork("Attic"));
+    EXPECT_EQ(steps(), "Setup030WiFiList") << "the list is known, and the second click chose nothing of it";
+}
+
 TEST_F(WiFiTest, SetsUpANewUnit) {
     const Unit unit = makeUnit("ruvello", "Fresh", true);
     prepare(unit);
@@ -123,8 +188,15 @@ TEST_F(WiFiTest, FindsTheUnitToSetUpAndTellsWhenItIsLost) {
     const Unit other = makeUnit("hub", "Hub");
     const Unit second = makeUnit("kelm", "Sofa");
     ASSERT_TRUE(shows({"Hub (Local) | Quivera Hub", "Sofa (Local) | KELM"}));
+    press("deviceRow");
+    ASSERT_TRUE(arrives("pageMain040DeviceInfo"));
+    press("backButton");
+    ASSERT_TRUE(arrives("pageMain010DeviceList"));
+    steps();
     press("addButton");
     ASSERT_TRUE(arrives("pageSetup010WaitForDevice"));
+    EXPECT_EQ(window.item("titleText")->property("text"), QStringLiteral("Add Quivera Device"))
+        << "not the unit that was opened before";
     EXPECT_EQ(window.item("accessPointPassword")->property("text"), QStringLiteral("tqvn5820"));
     key(Qt::Key_Escape);
     ASSERT_TRUE(arrives("pageMain010DeviceList"));

@@ -1,0 +1,7 @@
+.pragma library
+
+// The pattern with its places (%1 to %9) filled in one pass: a place mark within a value, which may be a unit's text,
+// stays as it is.
+function fill(pattern, ...values) {
+    return pattern.replace(/%([1-9])/g, (mark, place) => place <= values.length ? values[place - 1] : mark);
+}
