@@ -1,6 +1,7 @@
 #include "Product.h"
 #include "tests/e2e/NavigationFixture.h"
 
+#include <QGuiApplication>
 #include <QRegularExpression>
 
 #include <iterator>
@@ -110,6 +111,10 @@ TEST_F(NavigationTest, ResetsTheNetworkOnlyWhenThatIsConfirmed) {
 
 TEST_F(NavigationTest, OpensEachPageOfAUnitAndComesBack) {
     const Unit unit = openOnlyUnit("Sofa");
+    const auto updates = [&] { return unit->counters().requestsOf("RequestContentUpdate"); };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return updates() == 1; }, 10000));
+    emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return updates() == 2; }, 10000)) << "the user came back to the page";
     const std::pair<const char*, const char*> ways[] = {{"infoIcon", "pageMain050NetworkStatus"},
                                                         {"mediaListButton", "pageMain080MediaList"},
                                                         {"seatHealth", "pageMain076DetailedStatus"},
