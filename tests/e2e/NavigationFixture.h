@@ -38,9 +38,9 @@ protected:
 
     std::string shownPage() const { return shownStack()->property("currentId").toString().toStdString(); }
 
-    /// Whether that page comes within 30 s (or is there already).
-    bool arrives(const std::string& page) const {
-        const bool here = QTest::qWaitFor([&] { return shownPage() == page; }, 30000);
+    /// Whether that page comes within the bound in ms (or is there already).
+    bool arrives(const std::string& page, int bound = 30000) const {
+        const bool here = QTest::qWaitFor([&] { return shownPage() == page; }, bound);
         EXPECT_EQ(shownPage(), page);
         return here;
     }

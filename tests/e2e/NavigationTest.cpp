@@ -199,8 +199,10 @@ TEST_F(NavigationTest, EachPageThatNeedsTheUnitClosesWhenTheUnitGoes) {
             pressNetwork(way.network);
         }
         ASSERT_TRUE(arrives(way.page));
+        ASSERT_TRUE(awaitItem("backButton"));
         unit->stop();
-        ASSERT_TRUE(arrives("pageMain040DeviceInfo"));
+        // A unit that goes while its titles are asked for is given up only after the 30 s of that request.
+        ASSERT_TRUE(arrives("pageMain040DeviceInfo", 60000));
         unit->start();
         ASSERT_TRUE(QTest::qWaitFor(
             [&] { return window.item("onlineStatus")->property("text") == QStringLiteral("Device Online"); },
