@@ -406,10 +406,12 @@ TEST_F(CommunicatorTest, DisconnectingEndsTheRequestAndForgetsTheUnit) {
 }
 
 TEST_F(CommunicatorTest, DisconnectingWhileTheConnectionIsAwaitedDoesNoHarm) {
+    unit.fail(AnswerFault::Drop); // on a busy machine all answers may be there before the next line
     communicator->startRequest(device, listed, nullptr, 1000);
     communicator->disconnect();
     EXPECT_TRUE(eventually([&] { return communicator->isIdle(); }));
     EXPECT_EQ(results(), QLatin1String("0"));
+    unit.fail(AnswerFault::None);
     EXPECT_TRUE(request(device, listed));
 }
 
