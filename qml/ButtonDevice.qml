@@ -1,11 +1,10 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import "."
 import "Texts.js" as Texts
 
 // One unit in the list: product image, name, product and what needs doing.
-AbstractButton {
+ButtonBase {
     id: root
 
     property string deviceName
@@ -16,23 +15,10 @@ AbstractButton {
 
     readonly property string displayName: localAddress ? qsTr("%1 (Local)").arg(deviceName) : deviceName
 
-    implicitHeight: content.implicitHeight + topPadding + bottomPadding
     padding: Style.spaceMedium
-    hoverEnabled: true
-    focusPolicy: Qt.StrongFocus
 
-    Accessible.role: Accessible.Button
     Accessible.name: root.displayName
     Accessible.description: root.statusText.length > 0 ? Texts.fill(qsTr("%1, %2"), root.productName, root.statusText) : root.productName
-
-    Keys.onReturnPressed: event => pressedByKey(event)
-    Keys.onEnterPressed: event => pressedByKey(event)
-
-    function pressedByKey(event) {
-        if (!event.isAutoRepeat) {
-            root.clicked();
-        }
-    }
 
     background: WidgetBackground {
         hovered: root.hovered
@@ -41,7 +27,6 @@ AbstractButton {
     }
 
     contentItem: RowLayout {
-        id: content
         spacing: Style.spaceMedium
 
         Image {

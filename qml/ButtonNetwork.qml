@@ -1,10 +1,9 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import "."
 
 // One Wi-Fi network in a list.
-AbstractButton {
+ButtonBase {
     id: root
 
     property string networkName
@@ -14,21 +13,9 @@ AbstractButton {
     implicitHeight: Math.max(Style.listRowHeight, contentItem.implicitHeight + topPadding + bottomPadding)
     horizontalPadding: Style.spaceMedium
     verticalPadding: Style.spaceSmall
-    hoverEnabled: true
-    focusPolicy: Qt.StrongFocus
 
-    Accessible.role: Accessible.Button
     Accessible.name: root.networkName
     Accessible.description: root.active ? qsTr("Connected") : ""
-
-    Keys.onReturnPressed: event => pressedByKey(event)
-    Keys.onEnterPressed: event => pressedByKey(event)
-
-    function pressedByKey(event) {
-        if (!event.isAutoRepeat) {
-            root.clicked();
-        }
-    }
 
     background: WidgetBackground {
         hovered: root.hovered

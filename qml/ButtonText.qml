@@ -1,10 +1,9 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import "."
 
 // A push button with a text and, where there is one, a symbol before it. The main action of a page is primary.
-AbstractButton {
+ButtonBase {
     id: root
 
     property bool primary: true
@@ -12,24 +11,8 @@ AbstractButton {
 
     readonly property color textColor: !enabled ? Style.textDisabled : primary ? Style.textOnAccent : Style.text
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(Style.touchTarget, implicitContentHeight + topPadding + bottomPadding)
     horizontalPadding: Style.spaceLarge
     verticalPadding: Style.spaceSmall
-    hoverEnabled: true
-    focusPolicy: Qt.StrongFocus
-
-    Accessible.role: Accessible.Button
-    Accessible.name: root.text
-
-    Keys.onReturnPressed: event => pressedByKey(event)
-    Keys.onEnterPressed: event => pressedByKey(event)
-
-    function pressedByKey(event) {
-        if (!event.isAutoRepeat) {
-            root.clicked();
-        }
-    }
 
     background: WidgetButtonBackground {
         primary: root.primary

@@ -5,3 +5,8 @@
 function fill(pattern, ...values) {
     return pattern.replace(/%([1-9])/g, (mark, place) => place <= values.length ? values[place - 1] : mark);
 }
+
+// A name that came with line breaks, as one line.
+function inOneLine(text) {
+    return text.replace(/[\n\v\f\r\u0085\u2028\u2029]+/g, " ");
+}

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import "."
 import "Texts.js" as Texts
 
-// A value below its name. One that is worth it can be copied.
+// A value below its name. One that is worth it can be copied; its own line breaks are kept only where they are meant.
 Item {
     id: root
 
@@ -10,6 +10,7 @@ Item {
     property string text
     property url symbol
     property bool copyable: false
+    property bool keepsLines: false
 
     readonly property bool hasSymbol: symbol.toString().length > 0
     readonly property bool canCopy: copyable && text.length > 0
@@ -49,7 +50,7 @@ Item {
             id: value
             objectName: "valueText"
             width: parent.width
-            text: root.text
+            text: root.keepsLines ? root.text : Texts.inOneLine(root.text)
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.WrapAtWordBoundaryOrAnywhere
             readOnly: true

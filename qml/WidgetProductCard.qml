@@ -44,6 +44,7 @@ WidgetCard {
             required property var modelData
 
             objectName: "partRow"
+            keepsLines: true
             width: parent.width
             label: modelData.name
             text: modelData.license + "\n" + qsTr("© %1").arg(modelData.copyright)

@@ -1,24 +1,18 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
-import QtQuick.Templates 2.15 as T
 import "."
 
 // The heading of a column, which sorts by it; once more turns the order round.
-T.AbstractButton {
+ButtonBase {
     id: root
 
     property bool isSorted: false
     property bool isDescending: false
 
-    implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(Style.touchTarget, implicitContentHeight + 2 * Style.spaceTiny)
-    leftPadding: Style.spaceSmall
-    rightPadding: Style.spaceSmall
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
+    horizontalPadding: Style.spaceSmall
+    verticalPadding: Style.spaceTiny
 
     Accessible.role: Accessible.ColumnHeader
-    Accessible.name: root.text
     Accessible.description: {
         if (!root.isSorted) {
             return qsTr("Sorts by this column");
@@ -26,22 +20,6 @@ T.AbstractButton {
         return root.isDescending ? qsTr("Sorted, descending") : qsTr("Sorted, ascending");
     }
     Accessible.onPressAction: clicked()
-
-    Keys.onReturnPressed: event => pressedByKey(event)
-    Keys.onEnterPressed: event => pressedByKey(event)
-
-    function pressedByKey(event) {
-        if (!event.isAutoRepeat) {
-            root.clicked();
-        }
-    }
-
-    background: Rectangle {
-        radius: Style.radius
-        color: root.down ? Style.surfacePressed : root.hovered ? Style.surfaceHovered : "transparent"
-        border.width: root.visualFocus ? Style.focusRingWidth : 0
-        border.color: Style.accent
-    }
 
     contentItem: RowLayout {
         spacing: Style.spaceTiny

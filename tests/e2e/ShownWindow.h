@@ -102,6 +102,11 @@ public:
         m_components.Shutdown();
     }
 
+    /// What the documents know by that name, as "currDevice".
+    QObject* published(const char* name) const {
+        return m_engine->rootContext()->contextProperty(QString::fromLatin1(name)).value<QObject*>();
+    }
+
     DeviceInfoManager* manager() const { return qobject_cast<DeviceInfoManager*>(m_facade->deviceManager()); }
 
     QQuickWindow* window() const {
@@ -176,7 +181,8 @@ protected:
 
     bool shows(const QStringList& rows, int bound = 30000) const {
         const bool shown = QTest::qWaitFor([&] { return window.rows() == rows; }, bound);
-        EXPECT_EQ(window.rows(), rows);
+        EXPECT_EQ(window.rows().join(QLatin1Char('\n')).toStdString(),
+                  rows.join(QLatin1Char('\n')).toStdString());
         return shown;
     }
 

@@ -41,6 +41,11 @@ TEST_F(WindowTest, ShowsTheUnitsAroundAndKeepsTheirRowsTrue) {
     ASSERT_TRUE(shows({"Bench" + local + " | KELM | Downloading content 40%\nCode: 7",
                        "Fresh" + local + " | Ruvello | Network Setup Required",
                        "hub <b>1</b>" + local + " | Quivera Hub", "Armchair" + local + " | KELM"}));
+    sofa->changeState([](Simulator::UnitState& state) { state.content.id = 9999; });
+    ASSERT_TRUE(shows({"Bench" + local + " | KELM | Downloading content 40%\nCode: 7",
+                       "Fresh" + local + " | Ruvello | Network Setup Required",
+                       "hub <b>1</b>" + local + " | Quivera Hub",
+                       "Armchair" + local + " | KELM | System Update Required"}));
 }
 
 TEST_F(WindowTest, ClosesAtOnceAlsoWhileAUnitStalls) {

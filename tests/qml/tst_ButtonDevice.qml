@@ -36,7 +36,8 @@ TestCase {
         shown.statusText = "Network Setup Required";
         compare(findChild(shown, "nameText").text, "Living Room (Local)");
         verify(findChild(shown, "statusText").visible);
-        compare(shown.Accessible.description, "KELM, Network Setup Required");
+        shown.productName = "KELM %2 %1";
+        compare(shown.Accessible.description, "KELM %2 %1, Network Setup Required");
     }
 
     function test_markup_and_long_names_stay_text_within_the_button_data() {
