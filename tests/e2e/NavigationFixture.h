@@ -74,7 +74,7 @@ protected:
         const bool here = QTest::qWaitFor([&] { return shownPage() == page; }, bound);
         EXPECT_EQ(shownPage(), page);
         const auto told = messages().find(page);
-        if (here && told != messages().end()) {
+        if (here && readsEnglish && told != messages().end()) {
             EXPECT_EQ(message(), told->second);
         }
         return here;
@@ -202,6 +202,7 @@ protected:
         WindowFixture::TearDown();
     }
 
+    bool readsEnglish = true;
     const QString secret = QStringLiteral("correct horse 7");
     ProgramLogCapture log;
 };

@@ -22,6 +22,7 @@ class TourFixture : public Test::NavigationFixture {
 protected:
     void SetUp() override {
         NavigationFixture::SetUp();
+        readsEnglish = false; // but whatever the pictures are made in
         window.window()->resize(sizeOf("SCREENSHOT_WIDTH", 750), sizeOf("SCREENSHOT_HEIGHT", 900));
     }
 
