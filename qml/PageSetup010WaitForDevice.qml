@@ -9,8 +9,10 @@ PageFrame {
     // What a unit calls its own access point, and what lets one in.
     readonly property string accessPointName: "Orvex-xxxx"
     readonly property string accessPointPassword: "tqvn5820"
+    // A line may not break within it.
+    readonly property string unbrokenName: accessPointName.replace("-", "-\u2060")
 
-    readonly property var steps: [qsTr("Open the Wi-Fi settings of this computer."), qsTr("Join the network whose name begins with \"%1\".").arg(accessPointName), qsTr("Enter the password \"%1\".").arg(accessPointPassword), qsTr("Return to this application.")]
+    readonly property var steps: [qsTr("Open the Wi-Fi settings of this computer."), qsTr("Join the network whose name begins with \"%1\".").arg(unbrokenName), qsTr("Enter the password \"%1\".").arg(accessPointPassword), qsTr("Return to this application.")]
 
     maximumContentWidth: Style.formWidth
     spacing: Style.spaceLarge
