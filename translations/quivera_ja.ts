@@ -1141,8 +1141,7 @@ Wi-Fiを検索しています</translation>
     </message>
     <message>
         <source>Waiting for your Quivera device to appear on selected network</source>
-        <translation>選択したネットワークに
-Quivera機器が現れるのを待っています</translation>
+        <translation>選択したネットワークにQuivera機器が現れるのを待⁠っ⁠て⁠い⁠ま⁠す</translation>
     </message>
     <message>
         <source>Please connect this device to the same network that you selected for your Quivera device</source>
@@ -1151,17 +1150,14 @@ Quivera機器が現れるのを待っています</translation>
     <message>
         <source>Quivera device is already connected to selected network.
 Tap the &apos;Back&apos; button above and select another network.</source>
-        <translation>Quivera機器は、選択したネットワークに
-すでに接続されています。
-上の「戻る」を押して、
-別のネットワークを選んでください。</translation>
+        <translation>Quivera機器は、選択したネットワークにすでに接⁠続⁠さ⁠れ⁠て⁠い⁠ま⁠す。
+上の「戻る」を押して、別のネットワークを選んでく⁠だ⁠さ⁠い。</translation>
     </message>
     <message>
         <source>Quivera device cannot connect to selected network.
 Tap the &apos;Back&apos; button above and try selecting the network again.</source>
         <translation>Quivera機器が、選択したネットワークに接続できません。
-上の「戻る」を押して、
-ネットワークを選び直してください。</translation>
+上の「戻る」を押して、ネットワークを選び直してく⁠だ⁠さ⁠い。</translation>
     </message>
     <message>
         <source>Your Quivera device
@@ -1206,8 +1202,7 @@ your network...</source>
         <source>Quivera device cannot connect to your network.
 Tap the &apos;Back&apos; button above and try selecting the network again.</source>
         <translation>Quivera機器が、ネットワークに接続できません。
-上の「戻る」を押して、
-ネットワークを選び直してください。</translation>
+上の「戻る」を押して、ネットワークを選び直してく⁠だ⁠さ⁠い。</translation>
     </message>
     <message>
         <source>Your Quivera device
