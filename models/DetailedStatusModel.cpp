@@ -3,6 +3,9 @@
 #include "device/DeviceInfo.h"
 #include "device/DeviceInfoManager.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace orvex {
 
 void DetailedStatusModel::setDeviceInfoManager(std::shared_ptr<DeviceInfoManager> manager) {
@@ -17,7 +20,7 @@ void DetailedStatusModel::setFilter(unsigned filter) {
         return;
     }
     m_filter = wanted;
-    resetRows(buildRows());
+    rebuild(Change::Reset);
 }
 
 QVariant DetailedStatusModel::data(const QModelIndex& index, int role) const {
@@ -50,16 +53,23 @@ void DetailedStatusModel::onDeviceInfoUpdated() {
         return;
     }
     m_unit = unit;
-    if (isOther) {
-        resetRows(buildRows());
-    } else {
-        updateRows(buildRows());
-    }
+    rebuild(isOther ? Change::Reset : Change::Update);
 }
 
-QVector<DetailedStatusRow> DetailedStatusModel::buildRows() const {
+void DetailedStatusModel::rebuild(Change change) {
     const auto info = m_unit ? m_unit->detailedStatusInfo() : nullptr;
-    return info ? flatten(*info, m_filter) : QVector<DetailedStatusRow>();
+    auto rows = info ? flatten(*info, m_filter) : QVector<DetailedStatusRow>();
+    const bool hasFaults = std::any_of(rows.cbegin(), rows.cend(), [](const DetailedStatusRow& row) {
+        return row.status == DetailedStatusRow::Fault;
+    });
+    if (change == Change::Reset) {
+        resetRows(std::move(rows));
+    } else {
+        updateRows(std::move(rows));
+    }
+    if (std::exchange(m_hasFaults, hasFaults) != hasFaults) {
+        emit hasFaultsChanged();
+    }
 }
 
 } // namespace orvex

@@ -13,7 +13,7 @@ ButtonBase {
     property bool needsAttention: false
     property bool localAddress: false
 
-    readonly property string displayName: localAddress ? qsTr("%1 (Local)").arg(deviceName) : deviceName
+    readonly property string displayName: localAddress ? qsTr("%1 (Local)").arg(Texts.isolate(deviceName)) : deviceName
 
     padding: Style.spaceMedium
 
@@ -42,8 +42,9 @@ ButtonBase {
             Text {
                 objectName: "nameText"
                 Layout.fillWidth: true
-                text: root.displayName
+                text: Texts.inOneLine(root.displayName)
                 textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignLeft
                 elide: Text.ElideRight
                 maximumLineCount: 1
                 color: Style.text

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import "."
+import "Texts.js" as Texts
 
 // One Wi-Fi network in a list.
 ButtonBase {
@@ -35,7 +36,7 @@ ButtonBase {
         WidgetText {
             objectName: "networkName"
             Layout.fillWidth: true
-            text: root.networkName
+            text: Texts.inOneLine(root.networkName)
             Accessible.ignored: true
             wrapMode: Text.NoWrap
             elide: Text.ElideRight

@@ -14,9 +14,17 @@ ButtonBase {
 
     Accessible.name: root.name
 
+    readonly property bool explains: (hovered || visualFocus) && name.length > 0
+
     ToolTip.text: root.name
-    ToolTip.visible: (root.hovered || root.visualFocus) && root.name.length > 0
+    ToolTip.visible: root.explains
     ToolTip.delay: Style.tipDelay
+    // It goes with the pointer or the focus; Esc belongs to the page.
+    onExplainsChanged: {
+        if (explains) {
+            ToolTip.toolTip.closePolicy = Popup.NoAutoClose;
+        }
+    }
 
     contentItem: Item {
         Image {

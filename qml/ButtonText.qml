@@ -29,7 +29,8 @@ ButtonBase {
         }
 
         Image {
-            visible: root.symbol.toString().length > 0
+            // Drawn for the accent's colour, it would not be seen without.
+            visible: root.symbol.toString().length > 0 && (root.enabled || !root.primary)
             opacity: root.enabled ? 1 : 0.5
             source: root.symbol
             sourceSize.width: Style.symbol

@@ -23,11 +23,21 @@ Rectangle {
     signal buttonRightClicked
 
     color: Style.background
+    Accessible.role: Accessible.Pane
+    Accessible.name: root.title
     // What stands below the last item that takes the focus is to be read as well.
     Keys.onPressed: event => {
-        if (event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp) {
-            area.scrollBy(event.key === Qt.Key_PageDown ? 0.9 : -0.9);
-            event.accepted = true;
+        const parts = {
+            [Qt.Key_PageDown]: 0.9,
+            [Qt.Key_PageUp]: -0.9,
+            [Qt.Key_Down]: 0.1,
+            [Qt.Key_Up]: -0.1,
+            [Qt.Key_End]: Infinity,
+            [Qt.Key_Home]: -Infinity
+        };
+        event.accepted = event.key in parts;
+        if (event.accepted) {
+            area.scrollBy(parts[event.key]);
         }
     }
 

@@ -19,11 +19,22 @@ PageFrame {
         id: input
         objectName: "input"
         width: parent.width
-        onAccepted: root.buttonDoneClicked()
+        field.onActiveFocusChanged: {
+            if (field.activeFocus) {
+                field.selectAll();
+            }
+        }
+        onAccepted: {
+            if (done.enabled) {
+                root.buttonDoneClicked();
+            }
+        }
     }
 
     ButtonText {
+        id: done
         objectName: "doneButton"
+        enabled: root.inputText.trim().length > 0
         width: parent.width
         text: qsTr("Done")
         onClicked: root.buttonDoneClicked()

@@ -14,12 +14,15 @@ Rectangle {
     signal deviceTapped(int index)
 
     color: Style.background
+    Accessible.role: Accessible.Pane
+    Accessible.name: pageTitle.title
 
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
 
         WidgetPageTitle {
+            id: pageTitle
             Layout.fillWidth: true
             title: qsTr("ORVEX SYSTEMS")
         }
@@ -45,7 +48,12 @@ Rectangle {
                 Accessible.role: Accessible.List
                 Accessible.name: qsTr("Quivera devices")
 
+                // Beside the rows, not over them.
                 ScrollBar.vertical: ScrollBar {
+                    parent: list.parent
+                    anchors.left: list.right
+                    anchors.top: list.top
+                    anchors.bottom: list.bottom
                     Accessible.ignored: true
                 }
 

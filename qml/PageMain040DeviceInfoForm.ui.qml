@@ -21,6 +21,8 @@ Rectangle {
     property alias softwareCard: softwareCard
 
     color: Style.background
+    Accessible.role: Accessible.Pane
+    Accessible.name: pageTitle.title
 
     ColumnLayout {
         anchors.fill: parent

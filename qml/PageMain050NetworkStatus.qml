@@ -15,7 +15,7 @@ PageMain050NetworkStatusForm {
 
     statusNotice.visible: !currDevice.networkStatusValid
     statusNotice.isWaiting: visible
-    statusNotice.text: qsTr("Network status is not valid. Waiting for the device to report it...")
+    statusNotice.text: qsTr("The network status is not known yet. Waiting for the device to report it...")
 
     statusCard.visible: currDevice.networkStatusValid
     statusCard.title: qsTr("Connection")

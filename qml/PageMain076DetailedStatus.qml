@@ -32,6 +32,11 @@ PageMain076DetailedStatusForm {
         list.positionViewAtBeginning();
     }
 
+    // The views of faults show where a fault would stand also when there is none.
+    allWell.visible: list.count > 0 && !isLoading && !detailedStatusModel.hasFaults && [1, 2].includes(filter.currentIndex)
+    allWell.statusType: 3
+    allWell.text: qsTr("No module reports a fault.")
+
     list.model: detailedStatusModel
     list.accessibleName: pageTitle.title
     list.delegate: WidgetDetailRow {

@@ -5,10 +5,13 @@ import "."
 Rectangle {
     property alias pageTitle: pageTitle
     property alias filter: filter
+    property alias allWell: allWell
     property alias list: list
     property alias notice: notice
 
     color: Style.background
+    Accessible.role: Accessible.Pane
+    Accessible.name: pageTitle.title
 
     ColumnLayout {
         anchors.fill: parent
@@ -35,6 +38,12 @@ Rectangle {
                     id: filter
                     objectName: "statusFilter"
                     Layout.fillWidth: true
+                }
+
+                WidgetStatus {
+                    id: allWell
+                    objectName: "allWell"
+                    Layout.leftMargin: Style.spaceSmall
                 }
 
                 Item {

@@ -13,6 +13,7 @@ PageMain080MediaListForm {
     property string appliedFilter
 
     readonly property bool isLoading: !currDevice.mediaListValid
+    readonly property Item initialFocus: searchField
 
     function sortBy(role) {
         isDescending = sortedBy === role && !isDescending;
@@ -64,6 +65,12 @@ PageMain080MediaListForm {
 
     searchField.placeholderText: qsTr("Search for a title")
     searchField.enabled: !isLoading && !currDevice.mediaListEmpty
+    // Nothing else of the page was to be used while the titles were being read.
+    searchField.onEnabledChanged: {
+        if (searchField.enabled && root.activeFocus) {
+            searchField.forceActiveFocus(Qt.OtherFocusReason);
+        }
+    }
     searchField.onAccepted: applyFilter()
     searchField.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
 

@@ -22,6 +22,8 @@ Rectangle {
     property alias codedHeading: codedHeading
 
     color: Style.background
+    Accessible.role: Accessible.Pane
+    Accessible.name: pageTitle.title
 
     ColumnLayout {
         anchors.fill: parent

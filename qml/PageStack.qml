@@ -67,6 +67,7 @@ T.StackView {
             return;
         }
         formerFocus[currentId] = Window.activeFocusItem;
+        noteInput();
         push(next, T.StackView.Immediate);
         console.info(windowName + ": " + id);
         focusPage(next.initialFocus);
@@ -75,6 +76,7 @@ T.StackView {
     // Pops until that page is on top; to the first page when it is not in the stack.
     function popTo(id) {
         const target = find(item => item.objectName === id);
+        noteInput();
         pop(target, T.StackView.Immediate);
         if (currentId.length > 0) {
             console.info(windowName + ": " + currentId);
@@ -85,12 +87,21 @@ T.StackView {
     function focusPage(item) {
         root.stepped();
         const target = item && item.visible && item.enabled ? item : currentItem;
-        target.forceActiveFocus(Qt.OtherFocusReason);
+        target.forceActiveFocus(Window.window.usesKeys ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    }
+
+    // The next page shows where the focus is when it was to be seen on this one.
+    function noteInput() {
+        const item = Window.activeFocusItem;
+        if (item && item.visualFocus !== undefined) {
+            Window.window.usesKeys = item.visualFocus;
+        }
     }
 
     function goBack(event) {
-        event.accepted = currentItem && currentItem.buttonBackClicked && currentItem.canGoBack !== false;
+        event.accepted = Boolean(currentItem && currentItem.buttonBackClicked) && currentItem.canGoBack !== false;
         if (event.accepted && !event.isAutoRepeat) {
+            Window.window.usesKeys = true;
             currentItem.buttonBackClicked();
         }
     }

@@ -11,6 +11,12 @@ PageFrame {
 
     signal nextClicked
 
+    // Covered first: who listens to what changes on the screen is told what is deleted.
+    function forget() {
+        input.revealed = false;
+        input.text = "";
+    }
+
     maximumContentWidth: Style.formWidth
     spacing: Style.spaceLarge
     initialFocus: input.field
@@ -27,11 +33,6 @@ PageFrame {
         objectName: "input"
         width: parent.width
         label: qsTr("Password")
-        onTextChanged: {
-            if (text.length === 0) {
-                revealed = false;
-            }
-        }
         // An empty password is a decision, to be made with the button.
         onAccepted: {
             if (text.length > 0) {

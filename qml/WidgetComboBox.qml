@@ -10,6 +10,8 @@ T.ComboBox {
     property string accessibleName
     property string description
     property bool openedByKey: false
+    // Whether the focus was to be seen on it when it was last usable.
+    property bool hadRing: false
 
     // With what is chosen highlighted, as after a click.
     function open() {
@@ -32,9 +34,16 @@ T.ComboBox {
     Accessible.description: [root.displayText, root.description].filter(text => text.length > 0).join(", ")
     Accessible.onPressAction: root.open()
 
+    onVisualFocusChanged: {
+        if (enabled) {
+            hadRing = visualFocus;
+        }
+    }
     onEnabledChanged: {
         if (!enabled) {
             popup.close();
+        } else if (hadRing && activeFocus) {
+            focusReason = Qt.TabFocusReason;
         }
     }
     Keys.onPressed: {
@@ -91,6 +100,9 @@ T.ComboBox {
         Accessible.role: Accessible.ListItem
         Accessible.name: text
         Accessible.selected: root.currentIndex === index
+        // The keys stay with the box: it is told which choice they have reached.
+        Accessible.focusable: true
+        Accessible.focused: highlighted && root.popup.visible
 
         contentItem: WidgetText {
             text: choice.text

@@ -53,6 +53,7 @@ Item {
             text: root.keepsLines ? root.text : Texts.inOneLine(root.text)
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.WrapAtWordBoundaryOrAnywhere
+            horizontalAlignment: TextEdit.AlignLeft
             readOnly: true
             activeFocusOnPress: false
             selectByMouse: true

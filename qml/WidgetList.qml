@@ -42,7 +42,12 @@ ListView {
         }
     }
 
+    // Beside the rows, not over them.
     ScrollBar.vertical: ScrollBar {
+        parent: root.parent
+        anchors.left: root.right
+        anchors.top: root.top
+        anchors.bottom: root.bottom
         Accessible.ignored: true
         minimumSize: 0.05
     }

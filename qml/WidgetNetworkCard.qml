@@ -27,7 +27,7 @@ WidgetCard {
     WidgetText {
         visible: root.activeInterfaces.length > 0 && root.ssid.length > 0
         width: parent.width
-        text: qsTr("%1: %2").arg(qsTr("Wi-Fi Network")).arg(root.ssid)
+        text: Texts.fill(qsTr("%1: %2"), qsTr("Wi-Fi Network"), Texts.inOneLine(Texts.isolate(root.ssid)))
         maximumLineCount: 2
         elide: Text.ElideRight
         color: Style.textSecondary

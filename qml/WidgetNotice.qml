@@ -10,11 +10,23 @@ Column {
     property url symbol
     property bool isWaiting: false
 
+    readonly property bool hasHeading: heading.length > 0
+    // A screen reader hears of an alert that appears, not of one that says something else now.
+    property bool isTurning: false
+
+    function turn() {
+        isTurning = true;
+        Qt.callLater(show);
+    }
+
+    function show() {
+        isTurning = false;
+    }
+
     spacing: Style.spaceSmall
     padding: Style.spaceSmall
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: root.heading.length > 0 ? root.heading : root.text
-    Accessible.description: root.heading.length > 0 ? root.text : ""
+    onHeadingChanged: turn()
+    onTextChanged: turn()
 
     WidgetBusy {
         objectName: "busy"
@@ -33,9 +45,10 @@ Column {
     WidgetText {
         objectName: "noticeHeading"
         width: parent.width - 2 * parent.padding
-        visible: text.length > 0
+        visible: root.hasHeading && !root.isTurning
         text: root.heading
-        Accessible.ignored: true
+        Accessible.role: Accessible.AlertMessage
+        Accessible.description: root.text
         horizontalAlignment: Text.AlignHCenter
         font.pixelSize: Style.fontTitle
         font.weight: Font.Medium
@@ -44,9 +57,10 @@ Column {
     WidgetText {
         objectName: "noticeText"
         width: parent.width - 2 * parent.padding
-        visible: text.length > 0
+        visible: text.length > 0 && !root.isTurning
         text: root.text
-        Accessible.ignored: true
+        Accessible.role: Accessible.AlertMessage
+        Accessible.ignored: root.hasHeading
         horizontalAlignment: Text.AlignHCenter
         color: Style.textSecondary
         lineHeight: 1.2

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import "."
+import "Texts.js" as Texts
 
 // The bar on top of every page: where one is, the way back and, on some pages, one further thing to do.
 Rectangle {
@@ -48,7 +49,7 @@ Rectangle {
         Text {
             objectName: "titleText"
             width: parent.width
-            text: root.title
+            text: Texts.inOneLine(root.title)
             textFormat: Text.PlainText
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
@@ -66,7 +67,7 @@ Rectangle {
             objectName: "detailsText"
             width: parent.width
             visible: text.length > 0
-            text: root.details
+            text: Texts.inOneLine(root.details)
             textFormat: Text.PlainText
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap

@@ -29,7 +29,11 @@ T.TextField {
     Accessible.name: root.placeholderText
     Accessible.searchEdit: true
 
-    Keys.onEscapePressed: root.clear()
+    // Once there is nothing to clear, it leads back.
+    Keys.onEscapePressed: event => {
+        event.accepted = root.length > 0;
+        root.clear();
+    }
     Keys.onDownPressed: root.downPressed()
 
     background: WidgetBackground {

@@ -6,6 +6,8 @@ import "."
 Text {
     textFormat: Text.PlainText
     wrapMode: Text.Wrap
+    // Also where a unit's name is written from right to left: the page around it is not.
+    horizontalAlignment: Text.AlignLeft
     color: Style.text
     font.family: Style.fontFamily
     font.pixelSize: Style.fontBody

@@ -26,6 +26,7 @@ Item {
                 ToolTip {
                     visible: root.visible && root.Window.window !== null
                     delay: Style.tipDelay
+                    closePolicy: Popup.NoAutoClose
                     text: root.texts.filter(entry => entry.text.length > 0).map(entry => entry.text).join("\n")
                 }
             }

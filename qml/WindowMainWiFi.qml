@@ -34,14 +34,14 @@ Item {
         }
         const page = stack.page("pageMain062WiFiPassword");
         page.wiFiName = name;
-        page.passwordText = "";
+        page.forget();
         stack.show("pageMain062WiFiPassword");
     }
 
     function join() {
         const page = stack.page("pageMain062WiFiPassword");
         deviceManager.connectDeviceToWiFi(page.wiFiName, page.passwordText);
-        page.passwordText = "";
+        page.forget();
         stack.show("pageMain064WiFiWaitConnect");
     }
 

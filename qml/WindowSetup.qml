@@ -35,14 +35,14 @@ WindowSetupForm {
         deviceManager.goIdle();
         const page = stack.page("pageSetup040WiFiPassword");
         page.wiFiName = name;
-        page.passwordText = "";
+        page.forget();
         stack.show("pageSetup040WiFiPassword");
     }
 
     function join() {
         const page = stack.page("pageSetup040WiFiPassword");
         deviceManager.connectDeviceToWiFi(page.wiFiName, page.passwordText);
-        page.passwordText = "";
+        page.forget();
         stack.show("pageSetup050WaitForConnect");
         patience.restart();
     }
@@ -89,7 +89,8 @@ WindowSetupForm {
                 nextClicked: root.join
             }),
             pageSetup050WaitForConnect: page("PageGenericWait.qml", {
-                text: qsTr("Waiting for\nQuivera device\nto connect to\nyour network...")
+                text: qsTr("Waiting for\nQuivera device\nto connect to\nyour network..."),
+                notes: qsTr("Please connect this computer to the same network as well.")
             }),
             pageSetup060Error: page("PageGenericDialog.qml", {
                 text: qsTr("Quivera device cannot connect to your network.\nTap the 'Back' button above and try selecting the network again."),

@@ -7,6 +7,8 @@ Window {
     id: root
 
     readonly property bool onWindows: Qt.platform.os === "windows"
+    // Whether the user goes through the pages with keys, and wants to see where the focus is.
+    property bool usesKeys: false
 
     width: onWindows ? Style.windowWidth : Screen.desktopAvailableWidth
     // A scaled screen may offer less than the window wants, and the frame around it takes its part.

@@ -336,7 +336,7 @@ Tippen Sie unten auf
         <translation>NETZWERKSTATUS</translation>
     </message>
     <message>
-        <source>Network status is not valid. Waiting for the device to report it...</source>
+        <source>The network status is not known yet. Waiting for the device to report it...</source>
         <translation>Der Netzwerkstatus ist noch nicht bekannt. Warten auf die Meldung des Geräts...</translation>
     </message>
     <message>
@@ -488,6 +488,10 @@ Tippen Sie unten auf
     <message>
         <source>Reading the status of the modules...</source>
         <translation>Status der Module wird gelesen...</translation>
+    </message>
+    <message>
+        <source>No module reports a fault.</source>
+        <translation>Kein Modul meldet einen Fehler.</translation>
     </message>
 </context>
 <context>
@@ -1215,6 +1219,10 @@ Netzwerk verbunden.</translation>
     <message>
         <source>Done</source>
         <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Please connect this computer to the same network as well.</source>
+        <translation>Verbinden Sie auch diesen Computer mit demselben Netzwerk.</translation>
     </message>
 </context>
 <context>

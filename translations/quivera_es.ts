@@ -336,7 +336,7 @@ dispositivo Quivera. Pulse abajo
         <translation>ESTADO DE LA RED</translation>
     </message>
     <message>
-        <source>Network status is not valid. Waiting for the device to report it...</source>
+        <source>The network status is not known yet. Waiting for the device to report it...</source>
         <translation>Aún no se conoce el estado de la red. Esperando a que el dispositivo lo comunique...</translation>
     </message>
     <message>
@@ -488,6 +488,10 @@ dispositivo Quivera. Pulse abajo
     <message>
         <source>Reading the status of the modules...</source>
         <translation>Leyendo el estado de los módulos...</translation>
+    </message>
+    <message>
+        <source>No module reports a fault.</source>
+        <translation>Ningún módulo informa de fallos.</translation>
     </message>
 </context>
 <context>
@@ -1215,6 +1219,10 @@ a su red.</translation>
     <message>
         <source>Done</source>
         <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Please connect this computer to the same network as well.</source>
+        <translation>Conecte también este ordenador a la misma red.</translation>
     </message>
 </context>
 <context>

@@ -59,7 +59,7 @@
     </message>
     <message>
         <source>Code: %1</source>
-        <translation>Code : %1</translation>
+        <translation>Code&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -287,7 +287,7 @@ Tap the &quot;Add Quivera Device&quot;
 button below.</source>
         <translation>Aucun appareil Quivera trouvé.
 Appuyez ci-dessous sur
-« Ajouter un appareil Quivera ».</translation>
+«&#xa0;Ajouter un appareil Quivera&#xa0;».</translation>
     </message>
     <message>
         <source>Add Quivera Device from Network</source>
@@ -314,7 +314,7 @@ Appuyez ci-dessous sur
     </message>
     <message>
         <source>%1 requires a more recent software version for compatibility. The update should be done automatically but if it doesn&apos;t, please contact support.</source>
-        <translation>%1 nécessite une version plus récente du logiciel. La mise à jour devrait se faire automatiquement ; sinon, veuillez contacter l’assistance.</translation>
+        <translation>%1 nécessite une version plus récente du logiciel. La mise à jour devrait se faire automatiquement&#xa0;; sinon, veuillez contacter l’assistance.</translation>
     </message>
     <message>
         <source>Check that it is switched on and connected to your network. The page fills again as soon as the device answers.</source>
@@ -336,7 +336,7 @@ Appuyez ci-dessous sur
         <translation>ÉTAT DU RÉSEAU</translation>
     </message>
     <message>
-        <source>Network status is not valid. Waiting for the device to report it...</source>
+        <source>The network status is not known yet. Waiting for the device to report it...</source>
         <translation>L’état du réseau n’est pas encore connu. En attente d’une réponse de l’appareil...</translation>
     </message>
     <message>
@@ -353,7 +353,7 @@ Appuyez ci-dessous sur
     </message>
     <message>
         <source>The access point of the device is on: it waits to be set up</source>
-        <translation>Le point d’accès de l’appareil est activé : l’appareil attend d’être configuré</translation>
+        <translation>Le point d’accès de l’appareil est activé&#xa0;: l’appareil attend d’être configuré</translation>
     </message>
     <message>
         <source>Wi-Fi Network</source>
@@ -489,6 +489,10 @@ Appuyez ci-dessous sur
         <source>Reading the status of the modules...</source>
         <translation>Lecture de l’état des modules...</translation>
     </message>
+    <message>
+        <source>No module reports a fault.</source>
+        <translation>Aucun module ne signale de défaut.</translation>
+    </message>
 </context>
 <context>
     <name>PageMain080MediaList</name>
@@ -502,11 +506,11 @@ Appuyez ci-dessous sur
     </message>
     <message>
         <source>Titles found: %1</source>
-        <translation>Titres trouvés : %1</translation>
+        <translation>Titres trouvés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Titles: %1</source>
-        <translation>Titres : %1</translation>
+        <translation>Titres&#xa0;: %1</translation>
     </message>
     <message>
         <source>Title</source>
@@ -557,11 +561,11 @@ Appuyez ci-dessous sur
     </message>
     <message>
         <source>Join the network whose name begins with &quot;%1&quot;.</source>
-        <translation>Rejoignez le réseau dont le nom commence par « %1 ».</translation>
+        <translation>Rejoignez le réseau dont le nom commence par «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Enter the password &quot;%1&quot;.</source>
-        <translation>Saisissez le mot de passe « %1 ».</translation>
+        <translation>Saisissez le mot de passe «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Return to this application.</source>
@@ -569,7 +573,7 @@ Appuyez ci-dessous sur
     </message>
     <message>
         <source>Switch on your Quivera device, then connect this computer to it:</source>
-        <translation>Allumez votre appareil Quivera, puis connectez-y cet ordinateur :</translation>
+        <translation>Allumez votre appareil Quivera, puis connectez-y cet ordinateur&#xa0;:</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -648,7 +652,7 @@ l’appareil Quivera...</translation>
     </message>
     <message>
         <source>Status: %1</source>
-        <translation>État : %1</translation>
+        <translation>État&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -678,7 +682,7 @@ l’appareil Quivera...</translation>
     </message>
     <message>
         <source>Audio Source Level:</source>
-        <translation>Niveau de la source audio :</translation>
+        <translation>Niveau de la source audio&#xa0;:</translation>
     </message>
     <message>
         <source>%1 dB</source>
@@ -697,7 +701,7 @@ l’appareil Quivera...</translation>
     </message>
     <message>
         <source>Selected Profile:</source>
-        <translation>Profil choisi :</translation>
+        <translation>Profil choisi&#xa0;:</translation>
     </message>
     <message>
         <source>No Profile selected</source>
@@ -716,11 +720,11 @@ l’appareil Quivera...</translation>
     <name>WidgetAudioSource</name>
     <message>
         <source>Audio Source:</source>
-        <translation>Source audio :</translation>
+        <translation>Source audio&#xa0;:</translation>
     </message>
     <message>
         <source>Audio Source: None</source>
-        <translation>Source audio : aucune</translation>
+        <translation>Source audio&#xa0;: aucune</translation>
     </message>
     <message>
         <source>Connect a sound source to the device, or a microphone or sound card to the PC.</source>
@@ -765,7 +769,7 @@ l’appareil Quivera...</translation>
     </message>
     <message>
         <source>Haptic Delay Calibration:</source>
-        <translation>Réglage du délai haptique :</translation>
+        <translation>Réglage du délai haptique&#xa0;:</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -777,7 +781,7 @@ l’appareil Quivera...</translation>
     </message>
     <message>
         <source>Recognition Tolerance:</source>
-        <translation>Tolérance de reconnaissance :</translation>
+        <translation>Tolérance de reconnaissance&#xa0;:</translation>
     </message>
     <message>
         <source>%1 sec</source>
@@ -811,14 +815,14 @@ l’appareil Quivera...</translation>
     </message>
     <message>
         <source>Last Updated: %1</source>
-        <translation>Dernière mise à jour : %1</translation>
+        <translation>Dernière mise à jour&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>WidgetDetailRow</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -863,18 +867,18 @@ l’appareil Quivera...</translation>
     <name>WidgetLabeledText</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Copy: %1</source>
-        <translation>Copier : %1</translation>
+        <translation>Copier&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>WidgetMediaCard</name>
     <message>
         <source>Now Playing:</source>
-        <translation>Lecture en cours :</translation>
+        <translation>Lecture en cours&#xa0;:</translation>
     </message>
     <message>
         <source>Nothing is recognised. Play a coded title with sound on the chosen audio source.</source>
@@ -924,7 +928,7 @@ l’appareil Quivera...</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Wi-Fi Network</source>
@@ -1045,7 +1049,7 @@ l’appareil Quivera...</translation>
     <name>WidgetSeatHealth</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Shows the detailed status</source>
@@ -1151,13 +1155,13 @@ recherche les réseaux Wi-Fi</translation>
         <source>Quivera device is already connected to selected network.
 Tap the &apos;Back&apos; button above and select another network.</source>
         <translation>L’appareil Quivera est déjà connecté au réseau choisi.
-Appuyez ci-dessus sur « Retour » et choisissez un autre réseau.</translation>
+Appuyez ci-dessus sur «&#xa0;Retour&#xa0;» et choisissez un autre réseau.</translation>
     </message>
     <message>
         <source>Quivera device cannot connect to selected network.
 Tap the &apos;Back&apos; button above and try selecting the network again.</source>
         <translation>L’appareil Quivera ne peut pas se connecter au réseau choisi.
-Appuyez ci-dessus sur « Retour » et choisissez à nouveau le réseau.</translation>
+Appuyez ci-dessus sur «&#xa0;Retour&#xa0;» et choisissez à nouveau le réseau.</translation>
     </message>
     <message>
         <source>Your Quivera device
@@ -1202,7 +1206,7 @@ de l’appareil Quivera
         <source>Quivera device cannot connect to your network.
 Tap the &apos;Back&apos; button above and try selecting the network again.</source>
         <translation>L’appareil Quivera ne peut pas se connecter à votre réseau.
-Appuyez ci-dessus sur « Retour » et choisissez à nouveau le réseau.</translation>
+Appuyez ci-dessus sur «&#xa0;Retour&#xa0;» et choisissez à nouveau le réseau.</translation>
     </message>
     <message>
         <source>Your Quivera device
@@ -1215,6 +1219,10 @@ est maintenant connecté
     <message>
         <source>Done</source>
         <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Please connect this computer to the same network as well.</source>
+        <translation>Connectez aussi cet ordinateur au même réseau.</translation>
     </message>
 </context>
 <context>

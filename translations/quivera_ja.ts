@@ -336,7 +336,7 @@ button below.</source>
         <translation>ネットワークの状態</translation>
     </message>
     <message>
-        <source>Network status is not valid. Waiting for the device to report it...</source>
+        <source>The network status is not known yet. Waiting for the device to report it...</source>
         <translation>ネットワークの状態はまだ不明です。機器からの通知を待っています...</translation>
     </message>
     <message>
@@ -488,6 +488,10 @@ button below.</source>
     <message>
         <source>Reading the status of the modules...</source>
         <translation>モジュールの状態を読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>No module reports a fault.</source>
+        <translation>異常を報告しているモジュールはありません。</translation>
     </message>
 </context>
 <context>
@@ -1215,6 +1219,10 @@ to your network.</source>
     <message>
         <source>Done</source>
         <translation>完了</translation>
+    </message>
+    <message>
+        <source>Please connect this computer to the same network as well.</source>
+        <translation>このコンピューターも同じネットワークに接続してください。</translation>
     </message>
 </context>
 <context>

@@ -210,7 +210,9 @@ TEST_F(DevicePageTest, FindsATitleAmongThousandsAndSortsThem) {
     QTest::keyClick(window.window(), '(');
     ASSERT_TRUE(waitFor([this] { return item("mediaNotice") != nullptr; })) << "no title has a bracket";
 
-    click(item("backButton"));
+    QTest::keyClick(window.window(), Qt::Key_Escape);
+    EXPECT_TRUE(waitFor([this] { return item("mediaList")->property("count") == 5000; }));
+    QTest::keyClick(window.window(), Qt::Key_Escape);
     ASSERT_TRUE(waitFor([this] { return item("mediaListButton") != nullptr; }));
     click(item("mediaListButton"));
     EXPECT_TRUE(waitFor([this] { return item("mediaList") && item("mediaList")->property("count") == 5000; }))
@@ -231,7 +233,13 @@ TEST_F(DevicePageTest, TheModulesAreShownAsTheFilterSays) {
     const int details = rowsWith(4);
     EXPECT_LT(outline, details);
     EXPECT_LT(details, full);
+    EXPECT_FALSE(item("allWell"));
     EXPECT_LT(rowsWith(1), full) << "a healthy unit has no faults to show";
+    EXPECT_TRUE(item("allWell"));
+    unit->changeState([](Simulator::UnitState& state) {
+        state.seats[0].condition = Simulator::SeatCondition::NoCommunication;
+    });
+    EXPECT_TRUE(waitFor([this] { return !item("allWell"); }));
     EXPECT_TRUE(item("statusSymbol")) << "not by colour alone";
 }
 

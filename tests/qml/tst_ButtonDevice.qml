@@ -44,8 +44,8 @@ TestCase {
         return [
             {tag: "markup", name: "<b>bold</b><img src='x'>"},
             {tag: "long", name: "x".repeat(300)},
-            {tag: "lines", name: "one\ntwo\nthree"},
-            {tag: "right to left", name: "\u05e9\u05dc\u05d5\u05dd \ud83d\ude00"}
+            {tag: "lines", name: "one\ntwo\nthree", shown: "one two three"},
+            {tag: "right to left", name: "\u05e9\u05dc\u05d5\u05dd \ud83d\ude00", local: "\u2068\u05e9\u05dc\u05d5\u05dd \ud83d\ude00\u2069 (Local)"}
         ];
     }
 
@@ -53,9 +53,13 @@ TestCase {
         const shown = createTemporaryObject(button, testCase, {deviceName: row.name});
         const text = findChild(shown, "nameText");
         compare(text.textFormat, Text.PlainText);
-        compare(text.text, row.name);
+        compare(text.text, row.shown || row.name);
         verify(text.width <= shown.width);
         compare(text.lineCount, 1);
+        if (row.local) {
+            shown.localAddress = true;
+            compare(text.text, row.local);
+        }
     }
 
     function test_answers_to_pointer_and_keys() {
