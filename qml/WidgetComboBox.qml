@@ -60,6 +60,29 @@ T.ComboBox {
         openedByKey = openedByKey && event.isAutoRepeat;
     }
 
+    onHighlightedIndexChanged: {
+        reached.isTurning = true;
+        Qt.callLater(reached.show);
+    }
+
+    // Which choice the keys have reached. They stay with the box, so that no screen reader hears of it otherwise than by
+    // an alert that appears.
+    Item {
+        id: reached
+
+        property bool isTurning: false
+
+        function show() {
+            isTurning = false;
+        }
+
+        width: 1
+        height: 1
+        visible: root.popup.visible && !isTurning && root.highlightedIndex >= 0
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: root.textAt(root.highlightedIndex)
+    }
+
     background: WidgetBackground {
         hovered: root.hovered
         pressed: root.down
@@ -100,9 +123,6 @@ T.ComboBox {
         Accessible.role: Accessible.ListItem
         Accessible.name: text
         Accessible.selected: root.currentIndex === index
-        // The keys stay with the box: it is told which choice they have reached.
-        Accessible.focusable: true
-        Accessible.focused: highlighted && root.popup.visible
 
         contentItem: WidgetText {
             text: choice.text

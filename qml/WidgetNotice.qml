@@ -49,6 +49,7 @@ Column {
         text: root.heading
         Accessible.role: Accessible.AlertMessage
         Accessible.description: root.text
+        Accessible.ignored: !root.hasHeading
         horizontalAlignment: Text.AlignHCenter
         font.pixelSize: Style.fontTitle
         font.weight: Font.Medium
