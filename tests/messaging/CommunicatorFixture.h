@@ -158,4 +158,23 @@ protected:
     QSignalSpy ended{communicator.get(), &Communicator::requestComplete};
 };
 
+/// What a row of the unit list is read for.
+constexpr std::uint32_t listed = DeviceField::mask(
+    {DeviceField::Name, DeviceField::LibraryUpdateTime, DeviceField::ContentUpdate, DeviceField::Network});
+
+/// One unit to ask.
+class OneUnitFixture : public CommunicatorFixture {
+protected:
+    using CommunicatorFixture::CommunicatorFixture;
+
+    /// The connection that the second request of a test reuses.
+    void connectToUnit() {
+        ASSERT_TRUE(request(device, mask({DeviceField::Name})));
+        ended.clear();
+    }
+
+    RunningUnit unit{host};
+    std::shared_ptr<DeviceInfo> device = unit.device();
+};
+
 } // namespace orvex::Test
