@@ -14,7 +14,7 @@ ButtonBase {
 
     Accessible.name: root.name
 
-    readonly property bool explains: (hovered || visualFocus) && name.length > 0
+    readonly property bool explains: visible && (hovered || visualFocus) && name.length > 0
 
     ToolTip.text: root.name
     ToolTip.visible: root.explains
