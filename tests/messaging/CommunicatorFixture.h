@@ -158,14 +158,15 @@ protected:
     QSignalSpy ended{communicator.get(), &Communicator::requestComplete};
 };
 
-/// What a row of the unit list is read for.
-constexpr std::uint32_t listed = DeviceField::mask(
-    {DeviceField::Name, DeviceField::LibraryUpdateTime, DeviceField::ContentUpdate, DeviceField::Network});
-
 /// One unit to ask.
 class OneUnitFixture : public CommunicatorFixture {
 protected:
     using CommunicatorFixture::CommunicatorFixture;
+
+    /// What a row of the unit list is read for.
+    static constexpr std::uint32_t listed =
+        DeviceField::mask({DeviceField::Name, DeviceField::LibraryUpdateTime, DeviceField::ContentUpdate,
+                           DeviceField::Network});
 
     /// The connection that the second request of a test reuses.
     void connectToUnit() {
