@@ -13,7 +13,6 @@ PageMain080MediaListForm {
     property string appliedFilter
 
     readonly property bool isLoading: !currDevice.mediaListValid
-    readonly property Item initialFocus: searchField
 
     function sortBy(role) {
         isDescending = sortedBy === role && !isDescending;
@@ -31,6 +30,16 @@ PageMain080MediaListForm {
         appliedFilter = filterText;
         api.filterMediaList(filterText.replace(/[.*+?^${}()|[\]\\]/g, "\\$&"));
         list.positionViewAtBeginning();
+    }
+
+    // Whatever is typed on this page is searched for, without a cursor that blinks while nobody types.
+    Keys.onPressed: event => {
+        const isTyped = /^[^\x00-\x1f\x7f]+$/.test(event.text) && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier));
+        event.accepted = isTyped && searchField.enabled;
+        if (event.accepted) {
+            searchField.forceActiveFocus(Qt.OtherFocusReason);
+            searchField.insert(searchField.length, event.text);
+        }
     }
 
     onFilterTextChanged: {
@@ -65,12 +74,6 @@ PageMain080MediaListForm {
 
     searchField.placeholderText: qsTr("Search for a title")
     searchField.enabled: !isLoading && !currDevice.mediaListEmpty
-    // Nothing else of the page was to be used while the titles were being read.
-    searchField.onEnabledChanged: {
-        if (searchField.enabled && root.activeFocus) {
-            searchField.forceActiveFocus(Qt.OtherFocusReason);
-        }
-    }
     searchField.onAccepted: applyFilter()
     searchField.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
 
